@@ -1,0 +1,3 @@
+#include "varnel/process/VarnelMediator.h"
+
+void VarnelMediator::updateSubSystem(VarnelSubSystem *) {}
