@@ -1,0 +1,3 @@
+#include "varnel/exchange/VarnelExchange.h"
+
+VarnelExchange::~VarnelExchange() = default;
