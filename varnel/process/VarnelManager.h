@@ -244,7 +244,7 @@ class VARNEL_EXPORT VarnelManager : public SysBase::Manager {
     void setSectionChanged(bool value);
     void setMaterialChanged(bool value);
     void setFoundationChanged(bool value);
-    void forgetLoadcase(const SysBase::Loadcase *loadcase);
+    void forgetLoadcases(const std::list<SysBase::Loadcase *> &dying);
 
     std::unique_ptr<Implementation> implementation_;
     std::list<std::string> errorList_;
