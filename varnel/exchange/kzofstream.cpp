@@ -72,10 +72,13 @@ bool kzofstream::finishWriting() {
     return written && !stream_->fail();
 }
 
-/// If the target cannot be replaced, the whole new content stays under the temporary name.
+/// If the target cannot be replaced, the whole new content stays under the temporary name. Access rights that
+/// a file system does not know are no reason to lose the document.
 bool kzofstream::putInPlace() {
     const std::string place = files_.resolve(target_);
-    if (place.empty() || !files_.adoptMode(temporary_, place) || !files_.sync(temporary_)) return false;
+    if (place.empty()) return false;
+    files_.adoptMode(temporary_, place);
+    if (!files_.sync(temporary_)) return false;
     return files_.replace(temporary_, place) || putInPlaceByCopy(place);
 }
 
@@ -83,8 +86,9 @@ bool kzofstream::putInPlace() {
 bool kzofstream::putInPlaceByCopy(const std::string &place) {
     const std::string beside = files_.makeBeside(place);
     if (beside.empty()) return false;
-    const bool placed = files_.copy(temporary_, beside) && files_.adoptMode(beside, place) &&
-                        files_.sync(beside) && files_.replace(beside, place);
+    files_.adoptMode(beside, place);
+    const bool placed =
+        files_.copy(temporary_, beside) && files_.sync(beside) && files_.replace(beside, place);
     files_.remove(placed ? temporary_ : beside);
     return placed;
 }
