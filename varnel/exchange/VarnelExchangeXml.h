@@ -11,9 +11,11 @@
 class KzConcrete;
 class KzMaterial;
 class KzMaterialManager;
+class KzMaterialReinforcement;
 class KzXmlData;
 class KzXmlTree;
 class Varnel;
+class VarnelArea;
 class VarnelAreaLoad;
 class VarnelAreaPolygon;
 class VarnelAreaRectangle;
@@ -232,13 +234,28 @@ class VARNEL_EXPORT VarnelExchangeXml : public VarnelExchangeXmlBase {
     KzMaterial *findMaterial(const std::string &name) const;
     KzConcrete *findConcrete(const std::string &name) const;
     void readLoadcase(KzXmlData *element, VarnelLoad *load);
+    VarnelArea *readOutline(KzXmlData *element, Varnel *model);
+    void createAttributeArea(KzXmlData *element, Varnel *model);
+    void updateDefaultProperties();
+    void createDefaultProperties(KzXmlData *element);
+    void createObjectState(KzXmlData *element, VarnelConstructionStage *stage, VarnelSubSystem *subSystem);
+    template <class State>
+    State *readMemberState(State *state, KzXmlData *element);
+    KzMaterialReinforcement *findReinforcement(const std::string &name) const;
+    KzMaterialReinforcement *findReinforcementOrVariant(const std::string &name) const;
+    void updateOutlineEdge(VarnelLine *line, std::size_t index);
     void updateEdge(Varnel *model, VarnelPlate *plate, std::size_t index);
+    void readPlateMaterial(KzXmlData *element, VarnelPlate *plate);
+    void readPointBoundaryBase(KzXmlData *element, VarnelPointBoundary *boundary);
+    void readEdgeBoundary(KzXmlData *element, VarnelLineBoundaryData *boundary);
     bool modelUnchanged() const;
 
     std::unique_ptr<VarnelExchangeXmlBeam> exBeam_;
     /// Whether the manager's model was unchanged when the running update of the system began to ask.
     class UnchangedMemory;
     UnchangedMemory *unchanged_ = nullptr;
+    /// The subsystem whose stages are being read.
+    VarnelSubSystem *stageTarget_ = nullptr;
 };
 
 #endif

@@ -5,6 +5,10 @@
 
 class VarnelBeam;
 
+namespace Found {
+class Foundation;
+}
+
 /// Reads and writes the element "BEAMS" of a subsystem.
 class VARNEL_EXPORT VarnelExchangeXmlBeam : public VarnelExchangeXmlObject {
   public:
@@ -28,8 +32,8 @@ class VARNEL_EXPORT VarnelExchangeXmlBeam : public VarnelExchangeXmlObject {
     void readSections(KzXmlData *element, VarnelBeam *beam);
     void readMaterials(KzXmlData *element, VarnelBeam *beam);
     void readFoundations(KzXmlData *element, VarnelBeam *beam);
-    void updateReferences(VarnelBeam *beam);
     void updateFoundations(VarnelBeam *beam);
+    void updateSpanEnd(const char *key, double position, const Found::Foundation *foundation);
 };
 
 #endif
