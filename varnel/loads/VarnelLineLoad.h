@@ -19,7 +19,7 @@ class VARNEL_EXPORT VarnelLineLoad : public VarnelLoad, public VarnelStateObject
 
     /// Takes over the line. A new line load is changed, unlike other loads.
     explicit VarnelLineLoad(VarnelLine *line);
-    /// Has a clone of the source's line.
+    /// Has a clone of the source's line. The type of the local system is meant to be lost: copies start at 0.
     VarnelLineLoad(const VarnelLineLoad &other);
     /// Assigns the source's line to this load's line, which must be of the same kind: otherwise throws
     /// std::bad_cast before anything is changed. A missing line here becomes a clone; one missing in the

@@ -1,0 +1,78 @@
+#include "varnel/loads/VarnelBeamLoad.h"
+
+#include "varnel/geometry/VarnelBeamGeo.h"
+#include "varnel/geometry/VarnelObjectVisitor.h"
+#include "varnel/members/VarnelBeam.h"
+
+VarnelBeamLoad::VarnelBeamLoad() = default;
+
+VarnelBeamLoad::VarnelBeamLoad(const VarnelBeamLoad &other)
+    : VarnelLoad(other),
+      data_(other.data_),
+      clonedBeam_(other.beam_ ? std::make_unique<VarnelBeam>(*other.beam_) : nullptr) {
+    beam_ = clonedBeam_.get();
+}
+
+VarnelBeamLoad &VarnelBeamLoad::operator=(const VarnelBeamLoad &other) {
+    if (!other.beam_) {
+        if (beam_ == clonedBeam_.get()) clonedBeam_.reset();
+        beam_ = nullptr;
+    } else if (!beam_) {
+        clonedBeam_ = std::make_unique<VarnelBeam>(*other.beam_);
+        beam_ = clonedBeam_.get();
+    }
+    VarnelLoad::operator=(other);
+    data_ = other.data_;
+    return *this;
+}
+
+VarnelBeamLoad::~VarnelBeamLoad() = default;
+
+void VarnelBeamLoad::setData(const VarnelBeamLoadData &data) {
+    data_ = data;
+    setChanged(true);
+}
+
+void VarnelBeamLoad::setBeam(VarnelBeam *beam) {
+    beam_ = beam;
+    VarnelLoad::setChanged(true);
+}
+
+VarnelBeamGeo *VarnelBeamLoad::getGeo() const {
+    return beam_ ? beam_->getGeo() : nullptr;
+}
+
+void VarnelBeamLoad::setForce(const KzVector3D &force) {
+    data_.setForce(force);
+    setChanged(true);
+}
+
+void VarnelBeamLoad::setMoment(const KzVector3D &moment) {
+    data_.setMoment(moment);
+    setChanged(true);
+}
+
+int VarnelBeamLoad::getVisited(VarnelObjectVisitor *visitor) {
+    return visitor->visit(this);
+}
+
+bool VarnelBeamLoad::isInPlane(const KzMatrix44 &plane) const {
+    return beam_ && beam_->isInPlane(plane);
+}
+
+bool VarnelBeamLoad::touchesPlane(const KzMatrix44 &plane) const {
+    return beam_ && beam_->touchesPlane(plane);
+}
+
+bool VarnelBeamLoad::getChanged() const {
+    return VarnelLoad::getChanged() || (beam_ && beam_->getChanged());
+}
+
+void VarnelBeamLoad::setChanged(bool changed) {
+    VarnelLoad::setChanged(changed);
+    if (beam_) beam_->setChanged(changed);
+}
+
+KzVector3D VarnelBeamLoad::getCOG() {
+    return getGeo() ? getGeo()->getCOG() : KzVector3D();
+}
