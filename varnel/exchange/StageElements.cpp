@@ -131,10 +131,22 @@ void VarnelExchangeXml::updateOnePlateState(VarnelPlateState *state) {
     if (const KzMaterial *material = state->getMaterial()) setAttribute("MATERIAL", material->getName());
 }
 
+/// Remembers the subsystem whose stages are being read, until the scope is left.
+class VarnelExchangeXml::StageTarget {
+  public:
+    StageTarget(VarnelSubSystem *&slot, VarnelSubSystem *subSystem) : slot_(slot) { slot_ = subSystem; }
+    StageTarget(const StageTarget &) = delete;
+    StageTarget &operator=(const StageTarget &) = delete;
+    ~StageTarget() { slot_ = nullptr; }
+
+  private:
+    VarnelSubSystem *&slot_;
+};
+
 void VarnelExchangeXml::createConstructionStages(KzXmlData *element, VarnelSubSystem *subSystem) {
     KzXmlData *list = element ? element->findTree("CONSTRUCTIONSTATES", false) : nullptr;
     if (!list || !subSystem) return;
-    stageTarget_ = subSystem;
+    const StageTarget target(stageTarget_, subSystem);
     varnel::eachChild(list, [this, subSystem](KzXmlData *child) {
         const int number = varnel::readInt(child, "NUMBER", 0);
         auto *stage =

@@ -221,9 +221,9 @@ class VARNEL_EXPORT VarnelExchangeXml : public VarnelExchangeXmlBase {
     /// Takes over; the former one is freed.
     void setExBeam(VarnelExchangeXmlBeam *exBeam);
     KzMaterialManager *getMaterialManager() const;
-    /// Whether the lists "POINTS" and "LINES" are written.
-    bool writePoints_ = false;
-    bool writeLines_ = false;
+    /// Whether the lists "POINTS" and "LINES" are written; false from the start.
+    void setWritePoints(bool value) { writePoints_ = value; }
+    void setWriteLines(bool value) { writeLines_ = value; }
 
   private:
     friend class VarnelExchangeXmlBeam;
@@ -250,11 +250,14 @@ class VARNEL_EXPORT VarnelExchangeXml : public VarnelExchangeXmlBase {
     void readEdgeBoundary(KzXmlData *element, VarnelLineBoundaryData *boundary);
     bool modelUnchanged() const;
 
+    bool writePoints_ = false;
+    bool writeLines_ = false;
     std::unique_ptr<VarnelExchangeXmlBeam> exBeam_;
     /// Whether the manager's model was unchanged when the running update of the system began to ask.
     class UnchangedMemory;
     UnchangedMemory *unchanged_ = nullptr;
-    /// The subsystem whose stages are being read.
+    /// The subsystem whose stages are being read, else null.
+    class StageTarget;
     VarnelSubSystem *stageTarget_ = nullptr;
 };
 
