@@ -15,7 +15,7 @@
 class VARNEL_EXPORT VarnelLoad : public VarnelObject, public VarnelPosition {
   public:
     /// Whether this is a dead load, that is, load-case type 1. New loads are.
-    bool isDead() const { return static_cast<int>(lcType_) == 1; }
+    bool isDead() const { return lcType_ == SysBase::LoadcaseData::DEAD; }
 
     /// Puts the load into a case (shared; null for none) and marks it as changed.
     void setLoadcase(SysBase::Loadcase *loadcase);
@@ -62,7 +62,7 @@ class VARNEL_EXPORT VarnelLoad : public VarnelObject, public VarnelPosition {
     const VarnelLoadData &record() const;
 
     bool changed_ = false;
-    SysBase::LoadcaseData::Type lcType_ = static_cast<SysBase::LoadcaseData::Type>(1);
+    SysBase::LoadcaseData::Type lcType_ = SysBase::LoadcaseData::DEAD;
 };
 
 #endif
