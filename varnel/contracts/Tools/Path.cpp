@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <string_view>
+#include <utility>
 
 namespace Tools {
 namespace {
@@ -33,7 +34,7 @@ std::string_view withoutExtension(std::string_view file) {
 }  // namespace
 
 Path &Path::setPath(const std::string &path) {
-    const std::string whole = path;  // the argument may be one of this path's own parts
+    std::string whole = path;  // the argument may be one of this path's own parts
     const std::string_view text = whole;
     const std::size_t location = locationLength(text);
     const std::size_t last = text.substr(location).find_last_of(separators);
@@ -41,7 +42,7 @@ Path &Path::setPath(const std::string &path) {
     location_ = text.substr(0, location);
     directory_ = text.substr(location, file - location);
     file_ = withoutExtension(text.substr(file));
-    path_ = whole;
+    path_ = std::move(whole);
     return *this;
 }
 
