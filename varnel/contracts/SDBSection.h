@@ -20,14 +20,12 @@ class VARNEL_EXPORT SDBSection {
     void setName(const std::string &name);
     /// Area in m2.
     virtual double getArea() const { return area_; }
+    virtual void setArea(double area);
     bool getChanged() const { return changed_; }
     void setChanged(bool value) { changed_ = value; }
     /// Whether a user defined the section, rather than a program that generated it. True at first.
     bool isUserDefined() const { return userDefined_; }
     void setUserDefined(bool value);
-
-  protected:
-    void setAreaValue(double area);
 
   private:
     friend class varnel::NamedList<SDBSection>;

@@ -24,7 +24,9 @@ class VARNEL_EXPORT SDBSectionLine : public SDBSection {
     /// Change the shape and with it the area.
     void setRectangle(double width, double height);
     void setCircle(double diameter);
-    void setGeneral(double area);
+
+    /// Makes the shape a general one of that area.
+    void setArea(double area) override;
 
   private:
     void setShape(Kind kind, double first, double second, double area);

@@ -71,7 +71,6 @@ class VARNEL_EXPORT Manager {
     };
 
     int nextNumber() const;
-    void renamed(const Loadcase &loadcase, const std::string &before, const std::string &after);
 
     std::list<Loadcase *> loadcases_;
     Loadcase *currentLoadcase_ = nullptr;

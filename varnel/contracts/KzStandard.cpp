@@ -1,0 +1,6 @@
+#include "varnel/contracts/KzStandard.h"
+
+KzStandard *KzStandard::get() {
+    static KzStandard standard;
+    return &standard;
+}
