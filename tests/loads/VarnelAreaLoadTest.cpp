@@ -251,6 +251,7 @@ TEST(VarnelAreaLoad, IsVisitedAsAnAreaLoad) {
     EXPECT_EQ(7, object.getVisited(&visitor));
     EXPECT_EQ("area load", visitor.kind);
     EXPECT_EQ(&load, visitor.object);
+    EXPECT_EQ(0, object.getVisited(nullptr));
 }
 
 }  // namespace

@@ -288,6 +288,7 @@ TEST(VarnelBeamLoad, IsVisitedAsABeamLoad) {
     EXPECT_EQ(7, object.getVisited(&visitor));
     EXPECT_EQ("beam load", visitor.kind);
     EXPECT_EQ(&load, visitor.object);
+    EXPECT_EQ(0, object.getVisited(nullptr));
 }
 
 }  // namespace

@@ -305,6 +305,7 @@ TEST(VarnelLineLoad, IsVisitedAsALineLoad) {
     EXPECT_EQ(7, object.getVisited(&visitor));
     EXPECT_EQ("line load", visitor.kind);
     EXPECT_EQ(&load, visitor.object);
+    EXPECT_EQ(0, object.getVisited(nullptr));
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/VirtualSlot.h"
+#include "varnel/contracts/KzMatrix44.h"
 #include "varnel/contracts/SysBase/Loadcase.h"
 
 namespace {

@@ -293,6 +293,7 @@ TEST(VarnelPointLoad, IsVisitedAsAPointLoad) {
     EXPECT_EQ(7, object.getVisited(&visitor));
     EXPECT_EQ("point load", visitor.kind);
     EXPECT_EQ(&load, visitor.object);
+    EXPECT_EQ(0, object.getVisited(nullptr));
 }
 
 TEST(VarnelPointLoad, DiesThroughEachOfItsBases) {

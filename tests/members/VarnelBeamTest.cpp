@@ -448,6 +448,7 @@ TEST(VarnelBeam, IsVisitedAsABeam) {
     EXPECT_EQ(7, object.getVisited(&visitor));
     EXPECT_EQ("beam", visitor.kind);
     EXPECT_EQ(&beam, visitor.object);
+    EXPECT_EQ(0, object.getVisited(nullptr));
     EXPECT_TRUE(object.isIn(nullptr));
 }
 
