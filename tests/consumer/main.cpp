@@ -2,8 +2,14 @@
 
 #include "varnel/varnel.h"
 
-/// Numbers one plate through the installed library alone.
+/// A beam that is made, numbered and found again through the installed library alone.
 int main() {
-    VarnelManager manager(new VarnelFactory);
-    return 0;
+    VarnelFactory factory;
+    VarnelManager manager(&factory);
+    Varnel &model = *manager.getDatabase();
+    model.add(model.giveBeam({0, 0, 0}, {0, 0, 3}));
+    manager.setup();
+    const VarnelBeam *beam = model.getBeams().front();
+    std::cout << "beam " << beam->getNumber() << " of " << model.getPoints().size() << " points\n";
+    return beam->getNumber() == 1 && model.getPoints().size() == 2 ? 0 : 1;
 }

@@ -1,0 +1,24 @@
+#include <iostream>
+
+#include "varnel/varnel.h"
+
+// Makes a slab on four columns, writes the project and reads it into a second manager.
+int main() {
+    VarnelFactory factory;
+    VarnelManager manager(&factory);
+    Varnel &model = *manager.getDatabase();
+
+    VarnelPlate *slab = model.givePlate(true);
+    slab->setArea(model.giveAreaRectangle({0, 0, 3}, {6, 0, 3}, {6, 4, 3}, {0, 4, 3}));
+    slab->setThick(0.25);
+    const int fixedInZ = 4;
+    for (const KzVector3D &corner : slab->getGeo()->getCoordinatesOfPoints())
+        model.givePointBoundaryRectan(corner, fixedInZ, 0.3, 0.3);
+    manager.output("first_host.xml");
+
+    VarnelManager reader(&factory);
+    reader.input("first_host.xml");
+    const Varnel &copy = *reader.getDatabase();
+    std::cout << copy.getPlates().size() << " plate, " << copy.getPointBoundaries().size() << " columns\n";
+    return copy.getPlates().size() == 1 && copy.getPointBoundaries().size() == 4 ? 0 : 1;
+}
