@@ -15,6 +15,7 @@ class XmlAttributes;
 class XmlChildIndex;
 class XmlReader;
 class XmlStore;
+class XmlWriter;
 struct XmlParts;
 }  // namespace varnel
 
@@ -76,15 +77,17 @@ class VARNEL_EXPORT KzXmlData {
 
   private:
     friend class KzXmlTree;
+    friend class varnel::XmlChildIndex;
     friend class varnel::XmlReader;
     friend class varnel::XmlStore;
+    friend class varnel::XmlWriter;
 
     KzXmlData(varnel::XmlName *name, KzXmlData *parent, std::uint32_t offset);
 
     static void destroy(KzXmlData *element);
-    varnel::XmlStore *store() const;
+    varnel::XmlStore *ownStore() const;
+    varnel::XmlStore *nearStore() const;
     varnel::XmlParts &giveParts();
-    void dropParts();
     void freeChildren();
     void setName(std::string_view name);
     varnel::XmlChildIndex *indexAbove() const;

@@ -18,6 +18,7 @@ struct XmlName final : Shared {
     const std::string text;
     const std::uint32_t hash;
     XmlName *follower = nullptr;  // the name that came after this one last time: documents repeat themselves
+    std::uint64_t tag = 0;        // the last start tag that had it as a key, for finding it a second time
 };
 
 /// The names of one document, each held once. Lives as long as its document; names that are still used
@@ -31,7 +32,11 @@ class XmlNames {
     /// The one object for this text, made if it is new.
     XmlName *give(std::string_view text);
     /// The same, quicker where names follow one another as they did before.
-    XmlName *giveAfter(XmlName *previous, std::string_view text);
+    XmlName *giveAfter(XmlName *previous, std::string_view text) {
+        if (!previous) return give(text);
+        if (!previous->follower || previous->follower->text != text) previous->follower = give(text);
+        return previous->follower;
+    }
 
     static std::uint32_t hash(std::string_view text);
 
