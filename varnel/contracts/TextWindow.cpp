@@ -165,8 +165,9 @@ void TextWindow::finish(std::size_t from) {
         afterReturn_ = end[-1] == '\r';
         char *out = at;
         for (; at != end; ++at) {
-            *out++ = *at == '\r' ? '\n' : *at;
-            if (*at == '\r' && at + 1 != end && at[1] == '\n') ++at;
+            const bool isReturn = *at == '\r';
+            *out++ = isReturn ? '\n' : *at;
+            if (isReturn && at + 1 != end && at[1] == '\n') ++at;
         }
         end = out;
     }
