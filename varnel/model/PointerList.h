@@ -68,12 +68,12 @@ class PointerList {
         places_.clear();
         return eraseByWalk(predicate);
     }
-    /// Puts another object into the place of each entry; a null answer drops the entry.
-    template <class Replacement>
-    void replaceEach(Replacement replacement) {
+    /// Lets a function look at each entry and change it; where it answers false the entry goes.
+    template <class Update>
+    void update(Update function) {
         places_.clear();
-        for (T *&entry : list_) entry = replacement(entry);
-        list_.remove(nullptr);
+        for (auto entry = list_.begin(); entry != list_.end();)
+            entry = function(*entry) ? std::next(entry) : list_.erase(entry);
     }
     void clear() { take(); }
     /// Empties the list and answers its former entries.

@@ -166,7 +166,7 @@ class VARNEL_EXPORT Varnel {
     VarnelBeamLoad *giveBeamLoad();
     VarnelAttributeArea *giveAttributeArea();
     /// The number that giveAttributeArea() would give, for a reader that makes the area itself.
-    int nextAttributeAreaNumber() const { return attributeAreas_.nextNumber(); }
+    int nextAttributeAreaNumber() const;
     /// Without a number, added.
     VarnelGap *giveGap();
     /// With the length of the list + 1 as number, not added.
@@ -398,17 +398,20 @@ class VARNEL_EXPORT Varnel {
     class Numbering;
 
     template <class List, class T>
-    void append(List &list, T *object, bool &changed);
-    template <class List, class T>
     void takeOut(List &list, T *object, bool destroy, bool &changed);
+    template <class List, class T>
+    void takeOutUngrouped(List &list, T *object, bool destroy);
     template <class List>
     void takeOutLoads(List &list, const SysBase::Loadcase *loadcase);
     template <class List>
     void dispose(List &list);
-    void disposeAll();
+    void disposeRefinePolygons();
+    bool hasOutline(const VarnelArea *outline) const;
+    VarnelDesignData *adopt(std::unique_ptr<VarnelDesignData> data);
     void listBoundary(VarnelLineBoundaryData *data);
     void unlistBoundary(VarnelLineBoundaryData *data);
     void unlistAllBoundaries();
+    void exchangeObjects(Varnel &other);
     void assign(const Varnel &other);
 
     bool systemChanged_ = false;

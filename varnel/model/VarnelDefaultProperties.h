@@ -74,13 +74,20 @@ class VARNEL_EXPORT VarnelDefaultProperties {
 
   private:
     class CImpl;
-    struct Records;
 
     VarnelDefaultProperties();
     ~VarnelDefaultProperties();
 
     std::shared_ptr<CImpl> impl_;
-    std::shared_ptr<Records> records_;
+    std::shared_ptr<VarnelLineBoundaryData> lbData_;
+    std::shared_ptr<VarnelPlateProperties> plateProp_;
+    std::shared_ptr<VarnelLineLoadData> lineLoad_;
+    std::shared_ptr<VarnelPointLoad> pointLoad_;
+    std::shared_ptr<VarnelAreaLoad> areaLoad_;
+    std::shared_ptr<VarnelBeamProperties> beamProp_;
+    std::shared_ptr<VarnelPointBoundaryData> pbData_;
+    std::shared_ptr<VarnelHole> hole_;
+    std::shared_ptr<VarnelLoadDistributionArea> lda_;
 };
 
 #endif

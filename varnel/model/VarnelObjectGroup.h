@@ -46,11 +46,11 @@ class VARNEL_EXPORT VarnelObjectGroup {
     /// Empties the group and marks no change.
     void remove();
     bool hasObject(VarnelObject *object) const { return objects_.contains(object); }
-    /// Puts another object into the place of each member, null dropping it, without marking a change: for a
-    /// model that makes its system points anew.
-    template <class Replacement>
-    void replaceEach(Replacement replacement) {
-        objects_.replaceEach(replacement);
+    /// Lets a function look at each member and put another object into its place; where it answers false the
+    /// member leaves. Marks no change: for a model whose objects change without the group being altered.
+    template <class Update>
+    void update(Update function) {
+        objects_.update(function);
     }
 
     /// The state of that number, made if absent.
