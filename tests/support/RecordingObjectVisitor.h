@@ -10,28 +10,28 @@ namespace varnel {
 /// Remembers which kind of object it was shown last, and where it lives, and answers 7.
 class RecordingObjectVisitor : public VarnelObjectVisitor {
   public:
-    int visit(VarnelLoadDistributionArea *object) override {
-        return record("load distribution area", object);
+    int visit(VarnelLoadDistributionArea *visited) override {
+        return record("load distribution area", visited);
     }
-    int visit(VarnelBeamLoad *object) override { return record("beam load", object); }
-    int visit(VarnelAreaLoad *object) override { return record("area load", object); }
-    int visit(VarnelLineLoad *object) override { return record("line load", object); }
-    int visit(VarnelPointLoad *object) override { return record("point load", object); }
-    int visit(VarnelPointBoundary *object) override { return record("point boundary", object); }
-    int visit(VarnelLineBoundary *object) override { return record("line boundary", object); }
-    int visit(VarnelHole *object) override { return record("hole", object); }
-    int visit(VarnelBeam *object) override { return record("beam", object); }
-    int visit(VarnelPlate *object) override { return record("plate", object); }
-    int visit(VarnelPoint *object) override { return record("point", object); }
+    int visit(VarnelBeamLoad *visited) override { return record("beam load", visited); }
+    int visit(VarnelAreaLoad *visited) override { return record("area load", visited); }
+    int visit(VarnelLineLoad *visited) override { return record("line load", visited); }
+    int visit(VarnelPointLoad *visited) override { return record("point load", visited); }
+    int visit(VarnelPointBoundary *visited) override { return record("point boundary", visited); }
+    int visit(VarnelLineBoundary *visited) override { return record("line boundary", visited); }
+    int visit(VarnelHole *visited) override { return record("hole", visited); }
+    int visit(VarnelBeam *visited) override { return record("beam", visited); }
+    int visit(VarnelPlate *visited) override { return record("plate", visited); }
+    int visit(VarnelPoint *visited) override { return record("point", visited); }
 
     std::string kind;
     const void *object = nullptr;
     int visits = 0;
 
   private:
-    int record(const char *visited, const void *where) {
-        kind = visited;
-        object = where;
+    int record(const char *name, const void *address) {
+        kind = name;
+        object = address;
         ++visits;
         return 7;
     }

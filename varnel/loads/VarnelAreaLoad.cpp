@@ -50,7 +50,7 @@ KzMatrix44 VarnelAreaLoad::getBase() const {
 }
 
 int VarnelAreaLoad::getVisited(VarnelObjectVisitor *visitor) {
-    return visitor->visit(this);
+    return visitor ? visitor->visit(this) : 0;
 }
 
 bool VarnelAreaLoad::isInPlane(const KzMatrix44 &plane) const {

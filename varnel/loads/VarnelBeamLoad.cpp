@@ -53,7 +53,7 @@ void VarnelBeamLoad::setMoment(const KzVector3D &moment) {
 }
 
 int VarnelBeamLoad::getVisited(VarnelObjectVisitor *visitor) {
-    return visitor->visit(this);
+    return visitor ? visitor->visit(this) : 0;
 }
 
 bool VarnelBeamLoad::isInPlane(const KzMatrix44 &plane) const {

@@ -38,7 +38,7 @@ KzMatrix44 VarnelLineLoad::getBase() const {
 }
 
 int VarnelLineLoad::getVisited(VarnelObjectVisitor *visitor) {
-    return visitor->visit(this);
+    return visitor ? visitor->visit(this) : 0;
 }
 
 bool VarnelLineLoad::isInPlane(const KzMatrix44 &plane) const {

@@ -37,5 +37,5 @@ void VarnelPointLoad::setBase(const KzMatrix44 &matrix) {
 }
 
 int VarnelPointLoad::getVisited(VarnelObjectVisitor *visitor) {
-    return visitor->visit(this);
+    return visitor ? visitor->visit(this) : 0;
 }

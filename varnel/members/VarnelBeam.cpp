@@ -294,7 +294,7 @@ void VarnelBeam::updateMinMax(KzVector3D *min, KzVector3D *max, const KzMatrix44
 }
 
 int VarnelBeam::getVisited(VarnelObjectVisitor *visitor) {
-    return visitor->visit(this);
+    return visitor ? visitor->visit(this) : 0;
 }
 
 bool VarnelBeam::isInPlane(const KzMatrix44 &plane) const {
