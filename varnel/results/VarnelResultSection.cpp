@@ -36,6 +36,7 @@ VarnelResultSection::VarnelResultSection(Varnel *)
 VarnelResultSection::VarnelResultSection(Varnel *, const KzVector3D &p1, const KzVector3D &p2)
     : geo_(lineBetween(p1, p2)) {}
 
+// The normal is no part of a copy: a section takes its normal from how it was made.
 VarnelResultSection::VarnelResultSection(const VarnelResultSection &other)
     : VarnelPosition(other),
       inPlane_(other.inPlane_),

@@ -1,0 +1,172 @@
+#include "varnel/results/VarnelResultSection.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <type_traits>
+
+#include "tests/support/VirtualSlot.h"
+#include "varnel/geometry/VarnelArea.h"
+#include "varnel/results/VarnelResultSectionLocation.h"
+
+namespace {
+
+/// A location that counts the living ones.
+class CountedLocation : public VarnelResultSectionLocation {
+  public:
+    explicit CountedLocation(int &living) : VarnelResultSectionLocation(0.5), living_(living) { ++living_; }
+    ~CountedLocation() override { --living_; }
+
+  private:
+    int &living_;
+};
+
+const KzVector3D start(1.0, 2.0, 3.0);
+const KzVector3D end(4.0, 5.0, 6.0);
+
+TEST(VarnelResultSectionLocation, HoldsItsStation) {
+    VarnelResultSectionLocation location(0.25);
+    EXPECT_EQ(0.25, location.getXi());
+    location.setXi(0.75);
+    EXPECT_EQ(0.75, VarnelResultSectionLocation(location).getXi());
+    EXPECT_TRUE(std::has_virtual_destructor<VarnelResultSectionLocation>::value);
+}
+
+TEST(VarnelResultSection, WithAModelAloneIsBornAtTheOriginWithTheNormalZ) {
+    const VarnelResultSection section(nullptr);
+    EXPECT_EQ(KzVector3D(0.0, 0.0, 1.0), section.getNormal());
+    EXPECT_TRUE(section.getInPlane());
+    EXPECT_EQ("", section.getName());
+    EXPECT_EQ(0, section.getNumber());
+    EXPECT_EQ(KzVector3D(), section.getP1());
+    EXPECT_EQ(KzVector3D(), section.getP2());
+    EXPECT_TRUE(section.getLocations().empty());
+}
+
+TEST(VarnelResultSection, WithPointsIsBornBetweenThemWithoutANormal) {
+    const VarnelResultSection section(nullptr, start, end);
+    EXPECT_EQ(KzVector3D(), section.getNormal());
+    EXPECT_TRUE(section.getInPlane());
+    EXPECT_EQ(start, section.getP1());
+    EXPECT_EQ(end, section.getP2());
+    ASSERT_NE(nullptr, section.getGeo());
+    EXPECT_EQ(2U, section.getGeo()->getNumLines());
+}
+
+TEST(VarnelResultSection, SettingAPointMovesThatEndOfTheLine) {
+    VarnelResultSection section(nullptr);
+    section.setP1(start);
+    EXPECT_EQ(start, section.getP1());
+    EXPECT_EQ(KzVector3D(), section.getP2());
+    section.setP2(end);
+    EXPECT_EQ(start, section.getP1());
+    EXPECT_EQ(end, section.getP2());
+}
+
+TEST(VarnelResultSection, HoldsNameAndFlag) {
+    VarnelResultSection section(nullptr);
+    section.setName("S1");
+    section.setInPlane(false);
+    EXPECT_EQ("S1", section.getName());
+    EXPECT_FALSE(section.getInPlane());
+}
+
+TEST(VarnelResultSection, ALineWithoutEdgesHasItsEndsAtTheOrigin) {
+    VarnelResultSection section(nullptr, start, end);
+    section.getGeo()->reset();
+    section.setP1(start);
+    EXPECT_EQ(KzVector3D(), section.getP1());
+    EXPECT_EQ(KzVector3D(), section.getP2());
+}
+
+TEST(VarnelResultSection, ResetFreesTheLocationsAndLeavesTheLine) {
+    int living = 0;
+    VarnelResultSection section(nullptr, start, end);
+    section.getLocations().push_back(new CountedLocation(living));
+    section.getLocations().push_back(nullptr);
+    section.getLocations().push_back(new CountedLocation(living));
+    const VarnelArea *line = section.getGeo();
+    section.reset();
+    EXPECT_EQ(0, living);
+    EXPECT_TRUE(section.getLocations().empty());
+    EXPECT_EQ(line, section.getGeo());
+    EXPECT_EQ(end, section.getP2());
+}
+
+TEST(VarnelResultSection, FreesItsLocationsWhenItDies) {
+    int living = 0;
+    {
+        VarnelResultSection section(nullptr);
+        section.getLocations().push_back(new CountedLocation(living));
+        EXPECT_EQ(1, living);
+    }
+    EXPECT_EQ(0, living);
+}
+
+TEST(VarnelResultSection, CopiesShareLineAndLocationsUntilTheLastOneDies) {
+    int living = 0;
+    auto source = std::make_unique<VarnelResultSection>(nullptr, start, end);
+    source->setNumber(7);
+    source->setName("S1");
+    source->setInPlane(false);
+    source->getLocations().push_back(new CountedLocation(living));
+    auto copy = std::make_unique<VarnelResultSection>(*source);
+    auto assigned = std::make_unique<VarnelResultSection>(nullptr);
+    int replaced = 0;
+    assigned->getLocations().push_back(new CountedLocation(replaced));
+    *assigned = *source;
+    EXPECT_EQ(0, replaced);
+    for (const VarnelResultSection *section : {copy.get(), assigned.get()}) {
+        EXPECT_EQ(7, section->getNumber());
+        EXPECT_EQ("S1", section->getName());
+        EXPECT_FALSE(section->getInPlane());
+        EXPECT_EQ(source->getGeo(), section->getGeo());
+        EXPECT_EQ(source->getLocations(), section->getLocations());
+    }
+    source.reset();
+    EXPECT_EQ(1, living);
+    EXPECT_EQ(start, copy->getP1());
+    copy->setP1(KzVector3D());
+    EXPECT_EQ(KzVector3D(), assigned->getP1());
+    copy.reset();
+    EXPECT_EQ(1, living);
+    assigned.reset();
+    EXPECT_EQ(0, living);
+}
+
+TEST(VarnelResultSection, WhatIsAddedToACopyIsTheCopysAlone) {
+    int living = 0;
+    VarnelResultSection source(nullptr);
+    {
+        VarnelResultSection copy(source);
+        copy.getLocations().push_back(new CountedLocation(living));
+        EXPECT_TRUE(source.getLocations().empty());
+    }
+    EXPECT_EQ(0, living);
+}
+
+TEST(VarnelResultSection, CopiesDoNotTakeTheNormal) {
+    const VarnelResultSection source(nullptr);
+    const VarnelResultSection copy(source);
+    EXPECT_EQ(KzVector3D(), copy.getNormal());
+    VarnelResultSection assigned(nullptr, start, end);
+    assigned = source;
+    EXPECT_EQ(KzVector3D(), assigned.getNormal());
+}
+
+TEST(VarnelResultSection, AssigningItselfKeepsAll) {
+    int living = 0;
+    VarnelResultSection section(nullptr, start, end);
+    section.getLocations().push_back(new CountedLocation(living));
+    const VarnelResultSection &same = section;
+    section = same;
+    EXPECT_EQ(1, living);
+    EXPECT_EQ(end, section.getP2());
+}
+
+TEST(VarnelResultSection, ItsOperationsKeepTheirSlots) {
+    EXPECT_EQ(2, varnel::virtualSlot(&VarnelResultSection::setName));
+    EXPECT_EQ(3, varnel::virtualSlot(&VarnelResultSection::getName));
+}
+
+}  // namespace
