@@ -10,6 +10,7 @@
 #include "varnel/contracts/SysBase/BeamResultState.h"
 #include "varnel/geometry/VarnelBase.h"
 #include "varnel/geometry/VarnelBeamGeo.h"
+#include "varnel/geometry/VarnelLine.h"
 #include "varnel/geometry/VarnelObjectVisitor.h"
 #include "varnel/geometry/VarnelPoint.h"
 #include "varnel/members/SharedLists.h"

@@ -29,7 +29,7 @@ std::size_t VarnelGap::numberOfLines() const {
 }
 
 KzVector3D VarnelGap::getVertex(std::size_t index) const {
-    return polyline_ ? polyline_->getPoint(index).getCoor() : KzVector3D::getOrigin();
+    return polyline_ ? polyline_->getCoor(index) : KzVector3D::getOrigin();
 }
 
 bool VarnelGap::getChanged() const {

@@ -1,0 +1,3 @@
+#include "varnel/members/VarnelAsFunctional.h"
+
+VarnelAsFunctional::~VarnelAsFunctional() = default;

@@ -1,0 +1,7 @@
+#include "varnel/members/VarnelPointBoundaryCircle.h"
+
+#include "varnel/geometry/VarnelPointBoundaryVisitor.h"
+
+void VarnelPointBoundaryCircle::getVisited(VarnelPointBoundaryVisitor *visitor) {
+    if (visitor) visitor->visit(this);
+}
