@@ -8,8 +8,8 @@ class KzXmlData;
 
 namespace varnel {
 
-/// Writes a list of elements of one name, told apart by a key attribute, over what is there already: elements
-/// that stay keep their place and what others wrote into them.
+/// Writes a list of elements of one name, which differ in a key attribute, over what is there already:
+/// elements that stay keep their place and what others wrote into them.
 class KeyedElements {
   public:
     /// The elements `name` below `parent`, which is lent and not null. `name` and `key` are literals.

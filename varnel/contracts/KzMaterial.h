@@ -7,7 +7,8 @@
 #include "varnel/contracts/NamedList.h"
 
 /// A material: name, density and specific weight. Setters raise the change flag of the material and of the
-/// manager that owns it when the value differs. Look-ups go by the name that is stored here.
+/// manager that owns it when the value differs. Look-ups go by the name that is stored here. Hosts rely on
+/// the order of the virtual operations: the name is number 9, counted from the destructor as 0.
 class VARNEL_EXPORT KzMaterial {
   public:
     enum Kind : int { OTHER = 0, CONCRETE, STEEL, REINFORCEMENT, PRESTRESS, TIMBER, MASONRY };
