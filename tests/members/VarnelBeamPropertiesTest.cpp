@@ -20,7 +20,7 @@ namespace {
 /// A distribution that can be told from others and counts its objects.
 class Fire : public FireDesign::TemperatureDistribution {
   public:
-    explicit Fire(int degrees) : degrees(degrees) { ++alive; }
+    explicit Fire(int value) : degrees(value) { ++alive; }
     Fire(const Fire &other) : TemperatureDistribution(other), degrees(other.degrees) { ++alive; }
     ~Fire() override { --alive; }
     Fire *clone() const override { return new Fire(*this); }
@@ -188,7 +188,7 @@ TEST(VarnelBeamProperties, CopiesAllValuesAndOwnedParts) {
 }
 
 TEST(VarnelFoundedPart, IsBornEmptyAndKnowsItsFoundations) {
-    Found::Foundation a(KzVector3D(0.0, 0.0, 1.0)), b(KzVector3D(0.0, 0.0, 2.0)), c(KzVector3D());
+    Found::Foundation a(KzVector3D(0.0, 0.0, 1.0)), b(KzVector3D(0.0, 0.0, 2.0)), c{KzVector3D()};
     VarnelFoundedPart part;
     EXPECT_EQ(0.0, part.getPosA());
     EXPECT_EQ(0.0, part.getPosE());
