@@ -303,8 +303,8 @@ TEST_F(VarnelManagerTest, DocumentPathIsTheFolderNamedAfterTheProject) {
 }
 
 TEST_F(VarnelManagerTest, RemovesFilesAndIgnoresMissingOnes) {
-    const TemporaryFolder folder;
-    const std::string path = folder.path("gone.txt");
+    const varnel::test::TemporaryFolder folder;
+    const std::string path = folder.file("gone.txt");
     std::ofstream(path) << "x";
     manager.fileRemove(path);
     EXPECT_FALSE(std::ifstream(path).good());

@@ -13,6 +13,7 @@
 #include "varnel/members/VarnelLineBoundaryData.h"
 #include "varnel/members/VarnelPlate.h"
 #include "varnel/members/VarnelPlateEdgeData.h"
+#include "varnel/members/VarnelPlateProperties.h"
 #include "varnel/model/Varnel.h"
 #include "varnel/process/VarnelManager.h"
 

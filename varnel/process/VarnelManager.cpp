@@ -17,6 +17,7 @@
 #include "varnel/contracts/KzReinfMeshUser.h"
 #include "varnel/contracts/KzReinfStockMesh.h"
 #include "varnel/contracts/Lists.h"
+#include "varnel/contracts/SDBSection.h"
 #include "varnel/contracts/SDBSectionManager.h"
 #include "varnel/contracts/SDBSectionUser.h"
 #include "varnel/contracts/Tools/TempPath.h"
