@@ -201,6 +201,18 @@ TEST(VarnelBeamLoad, NeverFreesABeamThatItWasGiven) {
     EXPECT_EQ(0.0, other.getLength());
 }
 
+TEST(VarnelBeamLoad, ForgetsADyingBeamWithoutAFlag) {
+    VarnelBeam dying, other;
+    VarnelBeamLoad load;
+    load.setBeam(&dying);
+    load.setChanged(false);
+    load.forgetBeam(&other);
+    EXPECT_EQ(&dying, load.getBeam());
+    load.forgetBeam(&dying);
+    EXPECT_EQ(nullptr, load.getBeam());
+    EXPECT_FALSE(load.getChanged());
+}
+
 TEST(VarnelBeamLoad, CopiedHasACloneOfTheBeam) {
     auto beam = std::make_unique<VarnelBeam>();
     beam->setLine(KzVector3D(), KzVector3D(3.0, 4.0, 0.0), 0);

@@ -17,7 +17,7 @@
 
 namespace {
 
-/// A distribution that can be told from others and counts its objects.
+/// A distribution with a value of its own, which counts its objects.
 class Fire : public FireDesign::TemperatureDistribution {
   public:
     explicit Fire(int value) : degrees(value) { ++alive; }

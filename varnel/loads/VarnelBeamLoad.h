@@ -32,6 +32,10 @@ class VARNEL_EXPORT VarnelBeamLoad : public VarnelLoad {
     /// Stores a beam (shared; null: none) and marks the load as changed. A clone that this load owns lives
     /// on until the load dies or makes another.
     void setBeam(VarnelBeam *beam);
+    /// Drops the reference to a beam that is about to die; any other beam stays. Marks no change.
+    void forgetBeam(const VarnelBeam *dying) {
+        if (beam_ == dying) beam_ = nullptr;
+    }
     /// The axis of the beam; null without a beam.
     VarnelBeamGeo *getGeo() const;
 
