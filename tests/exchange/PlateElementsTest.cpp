@@ -17,6 +17,7 @@
 #include "varnel/members/VarnelLineBoundaryData.h"
 #include "varnel/members/VarnelPlate.h"
 #include "varnel/members/VarnelPlateEdgeData.h"
+#include "varnel/members/VarnelPlateProperties.h"
 
 namespace {
 

@@ -11,6 +11,7 @@
 #include "varnel/members/VarnelBeam.h"
 #include "varnel/members/VarnelHole.h"
 #include "varnel/members/VarnelPlate.h"
+#include "varnel/members/VarnelPlateProperties.h"
 #include "varnel/model/VarnelDB.h"
 #include "varnel/process/VarnelDatabaseFactory.h"
 #include "varnel/process/VarnelManager.h"

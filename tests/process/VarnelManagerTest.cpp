@@ -16,6 +16,7 @@
 #include "varnel/contracts/SDBSectionLine.h"
 #include "varnel/contracts/SDBSectionManager.h"
 #include "varnel/contracts/SysBase/ConstructionStage.h"
+#include "varnel/contracts/SysBase/Loadcase.h"
 #include "varnel/members/VarnelHole.h"
 #include "varnel/members/VarnelPlate.h"
 #include "varnel/model/Varnel.h"
