@@ -1,7 +1,7 @@
 #include "varnel/model/Varnel.h"
 
 #include <algorithm>
-#include <type_traits>
+#include <iterator>
 #include <unordered_set>
 
 #include "varnel/contracts/KzMaterialHandler.h"
@@ -13,6 +13,7 @@
 #include "varnel/loads/VarnelBeamLoad.h"
 #include "varnel/loads/VarnelLineLoad.h"
 #include "varnel/loads/VarnelPointLoad.h"
+#include "varnel/members/BoundaryListing.h"
 #include "varnel/members/VarnelAttributeArea.h"
 #include "varnel/members/VarnelBeam.h"
 #include "varnel/members/VarnelDesignData.h"
@@ -258,6 +259,25 @@ void Varnel::removePointBoundaries() {
         group->update([&objects](VarnelObject *&member) { return !member || objects.count(member) == 0; });
     }
     dispose(pointBoundaries_);
+}
+
+void Varnel::listBoundary(VarnelLineBoundaryData *data) {
+    varnel::list(data, lineBoundaryDatas_);
+    if (!data) emptyEdges_.push_back(std::prev(lineBoundaryDatas_.end()));
+}
+
+void Varnel::unlistBoundary(VarnelLineBoundaryData *data) {
+    if (data) {
+        varnel::unlist(data, lineBoundaryDatas_);
+        return;
+    }
+    for (const auto &edge : emptyEdges_) lineBoundaryDatas_.erase(edge);
+    emptyEdges_.clear();
+}
+
+void Varnel::unlistAllBoundaries() {
+    emptyEdges_.clear();
+    varnel::unlistAll(lineBoundaryDatas_);
 }
 
 void Varnel::setDBaseFactory(std::shared_ptr<VarnelDatabaseFactory> factory) {

@@ -445,6 +445,8 @@ class VARNEL_EXPORT Varnel {
     varnel::PointerList<VarnelObjectGroup> objectGroups_;
     VarnelManager *manager_;
     std::vector<SDBSection *> generatedSections_;
+    std::vector<std::list<VarnelLineBoundaryData *>::iterator>
+        emptyEdges_;  // null entries of lineBoundaryDatas_
     bool view_ = false;
     std::unique_ptr<Varnel> former_;  // what this model owned before it became a view
 };
