@@ -36,58 +36,81 @@ struct CoordinateHash {
     }
 };
 
-/// Finds the first object that was entered at exact coordinates. Objects are lent; null objects and
-/// coordinates with NaN are never entered, as nothing equals them.
+/// Finds the first object that was entered at exact coordinates, of at most 2^31 objects. Objects are lent;
+/// null objects and coordinates with NaN are never entered, as nothing equals them.
 template <class T>
 class CoordinateIndex {
   public:
     /// The first object entered at these coordinates, or null.
     T *find(const KzVector3D &point) const noexcept {
-        return slots_.empty() ? nullptr : slots_[place(point)].object;
+        if (slots_.empty()) return nullptr;
+        const Slot &slot = slots_[place(point, tag(point))];
+        return slot.entry == none ? nullptr : entries_[slot.entry].object;
     }
     /// Enters an object unless another one stands there already; answers the one that stands there.
     T *insert(const KzVector3D &point, T *object) {
         if (!object || point != point) return object;
-        if (2 * (size_ + 1) > slots_.size()) grow(slots_.empty() ? 16 : 2 * slots_.size());
-        Slot &slot = slots_[place(point)];
-        if (slot.object) return slot.object;
-        slot = {point, object};
-        ++size_;
+        if (2 * (entries_.size() + 1) > slots_.size()) grow(slots_.empty() ? 16 : 2 * slots_.size());
+        const std::uint32_t tagged = tag(point);
+        Slot &slot = slots_[place(point, tagged)];
+        if (slot.entry != none) return entries_[slot.entry].object;
+        entries_.push_back({point, object});
+        slot = {tagged, static_cast<std::uint32_t>(entries_.size() - 1)};
         return object;
     }
     /// Makes room for `count` objects.
     void reserve(std::size_t count) {
         std::size_t capacity = 16;
         while (capacity < 2 * count) capacity *= 2;
+        entries_.reserve(count);
         if (capacity > slots_.size()) grow(capacity);
     }
     void clear() noexcept {
         slots_.clear();
-        size_ = 0;
+        entries_.clear();
     }
-    std::size_t size() const noexcept { return size_; }
+    std::size_t size() const noexcept { return entries_.size(); }
 
   private:
-    struct Slot {
+    static constexpr std::uint32_t none = 0xffffffffU;
+
+    struct Entry {
         KzVector3D point;
-        T *object = nullptr;
+        T *object;
+    };
+    // Small, so that a search touches few cache lines and growing moves no coordinates.
+    struct Slot {
+        std::uint32_t tag = 0;
+        std::uint32_t entry = none;
     };
 
-    std::size_t place(const KzVector3D &point) const noexcept {
+    static std::uint32_t tag(const KzVector3D &point) noexcept {
+        return static_cast<std::uint32_t>(CoordinateHash()(point));
+    }
+    /// The slot of these coordinates, or the free one where they belong.
+    std::size_t place(const KzVector3D &point, std::uint32_t tagged) const noexcept {
         const std::size_t mask = slots_.size() - 1;
-        std::size_t i = CoordinateHash()(point) & mask;
-        while (slots_[i].object && slots_[i].point != point) i = (i + 1) & mask;
+        std::size_t i = tagged & mask;
+        while (slots_[i].entry != none && !isAt(slots_[i], point, tagged)) i = (i + 1) & mask;
         return i;
+    }
+    bool isAt(const Slot &slot, const KzVector3D &point, std::uint32_t tagged) const noexcept {
+        return slot.tag == tagged && entries_[slot.entry].point == point;
     }
     void grow(std::size_t capacity) {
         std::vector<Slot> former(capacity);
         former.swap(slots_);
-        for (const Slot &slot : former)
-            if (slot.object) slots_[place(slot.point)] = slot;
+        const std::size_t mask = capacity - 1;
+        for (const Slot &slot : former) {
+            if (slot.entry == none) continue;
+            std::size_t i = slot.tag & mask;
+            while (slots_[i].entry != none) i = (i + 1) & mask;
+            slots_[i] = slot;
+        }
     }
 
-    std::vector<Slot> slots_;
-    std::size_t size_ = 0;
+    std::vector<Entry> entries_;
+    std::vector<Slot> slots_;  // open addressing, a power of two long
 };
 
 }  // namespace varnel

@@ -10,7 +10,7 @@ VarnelObjectGroupResultState::VarnelObjectGroupResultState() = default;
 VarnelObjectGroupResultState::VarnelObjectGroupResultState(const VarnelObjectGroupResultState &other)
     : Shared(other), nodalResults_(other.nodalResults_) {
     varnel::acquireAll(nodalResults_);
-    tabulate();
+    for (VarnelNodeResultLocation *record : nodalResults_) places_.enter(record);
 }
 
 VarnelObjectGroupResultState &VarnelObjectGroupResultState::operator=(
@@ -20,7 +20,7 @@ VarnelObjectGroupResultState &VarnelObjectGroupResultState::operator=(
     varnel::acquireAll(taken);
     clear();
     nodalResults_.swap(taken);
-    tabulate();
+    for (VarnelNodeResultLocation *record : nodalResults_) places_.enter(record);
     return *this;
 }
 
@@ -29,42 +29,16 @@ VarnelObjectGroupResultState::~VarnelObjectGroupResultState() {
 }
 
 VarnelNodeResultLocation *VarnelObjectGroupResultState::giveResultPosition(const KzVector3D &position) {
-    if (VarnelNodeResultLocation *record = find(position)) return record;
+    if (VarnelNodeResultLocation *record = places_.find(nodalResults_, position)) return record;
     auto made = std::make_unique<VarnelNodeResultLocation>(position);
     VarnelNodeResultLocation *const record = made.get();
     nodalResults_.push_back(record);
     varnel::acquire(made.release());
-    enter(record);
+    places_.enter(record);
     return record;
 }
 
 void VarnelObjectGroupResultState::clear() {
-    for (const VarnelNodeResultLocation *record : nodalResults_) watch_.unwatch(*record);
-    table_.clear();
-    watch_.reset();
-    tabulable_ = true;
+    places_.clear(nodalResults_);
     varnel::releaseAll(nodalResults_);
-}
-
-VarnelNodeResultLocation *VarnelObjectGroupResultState::find(const KzVector3D &position) {
-    if (tabulable_) {
-        if (watch_.hasMoved()) tabulate();
-        return table_.find(position);
-    }
-    for (VarnelNodeResultLocation *record : nodalResults_)
-        if (record->getCoor() == position) return record;
-    return nullptr;
-}
-
-/// Files the record behind all others, so that an earlier one at the same position stays the first.
-void VarnelObjectGroupResultState::enter(VarnelNodeResultLocation *record) {
-    if (!tabulable_) return;
-    tabulable_ = watch_.watch(*record);
-    table_.insert(record->getCoor(), record);
-}
-
-void VarnelObjectGroupResultState::tabulate() {
-    table_.clear();
-    watch_.reset();
-    for (VarnelNodeResultLocation *record : nodalResults_) enter(record);
 }

@@ -3,10 +3,9 @@
 
 #include <list>
 
-#include "varnel/contracts/CoordinateHash.h"
 #include "varnel/contracts/Export.h"
 #include "varnel/contracts/Shared.h"
-#include "varnel/geometry/PointWatch.h"
+#include "varnel/geometry/PlaceTable.h"
 
 class KzVector3D;
 class VarnelNodeResultLocation;
@@ -27,17 +26,8 @@ class VARNEL_EXPORT VarnelObjectGroupResultState : public varnel::Shared {
     void clear();
 
   private:
-    VarnelNodeResultLocation *find(const KzVector3D &position);
-    void enter(VarnelNodeResultLocation *record);
-    void tabulate();
-
     std::list<VarnelNodeResultLocation *> nodalResults_;
-
-    // Made anew after a record was moved. A record has one watch only: where another state watches it, this
-    // one walks its list instead.
-    varnel::CoordinateIndex<VarnelNodeResultLocation> table_;
-    varnel::PointWatch watch_;
-    bool tabulable_ = true;
+    varnel::PlaceTable<VarnelNodeResultLocation> places_;
 };
 
 #endif
