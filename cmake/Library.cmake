@@ -19,6 +19,10 @@ varnel_library_settings(varnel)
 set_target_properties(varnel PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}
                                         VERIFY_INTERFACE_HEADER_SETS ON)
 target_sources(varnel PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FILES ${varnel_headers})
+if(VARNEL_PRECOMPILE)
+  target_precompile_headers(varnel PRIVATE <algorithm> <functional> <list> <map> <memory> <string>
+                            <unordered_map> <vector>)
+endif()
 if(BUILD_SHARED_LIBS)
   target_compile_definitions(varnel PUBLIC VARNEL_SHARED PRIVATE VARNEL_BUILDING)
 endif()
