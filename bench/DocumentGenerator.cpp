@@ -78,7 +78,7 @@ class Generator {
         close("LINE");
     }
 
-    double grid(int steps) { return static_cast<double>(random_() % static_cast<unsigned>(steps)) * 0.05; }
+    double grid(int steps) { return static_cast<double>(random_() % static_cast<unsigned>(steps)) / 20.0; }
 
     /// A rectangle, every fourth one turned so that its corners are no round numbers.
     void plate(int index) {

@@ -8,6 +8,10 @@
 #include "varnel/contracts/Export.h"
 #include "varnel/contracts/XmlName.h"
 
+namespace varnel {
+class XmlWriter;
+}
+
 /// One attribute of an element: a key and a text. It stays where it is as long as its element keeps it.
 class VARNEL_EXPORT KzXmlAttributeData {
   public:
@@ -30,6 +34,7 @@ class VARNEL_EXPORT KzXmlAttributeData {
 
   private:
     friend class KzXmlData;
+    friend class varnel::XmlWriter;
 
     varnel::Held<varnel::XmlName> key_;
     std::string data_;

@@ -2,7 +2,6 @@
 
 #include <charconv>
 #include <cmath>
-#include <cstring>
 #include <limits>
 
 namespace varnel {
@@ -61,12 +60,6 @@ double readGeneralDouble(const char *at, const char *end, bool negative) {
     return negative ? -value : value;
 }
 
-unsigned countDigits(std::uint64_t value) {
-    unsigned digits = 1;
-    for (; value >= 10; value /= 10) ++digits;
-    return digits;
-}
-
 }  // namespace
 
 std::string_view trimmed(std::string_view text) noexcept {
@@ -75,45 +68,53 @@ std::string_view trimmed(std::string_view text) noexcept {
     return text;
 }
 
+template <class Number>
+void NumberText::write(Number value) noexcept {
+    end_ = std::to_chars(chars_, chars_ + sizeof chars_, value).ptr;
+}
+
 NumberText::NumberText(int value) noexcept {
-    size_ = static_cast<std::size_t>(std::to_chars(chars_, chars_ + sizeof chars_, value).ptr - chars_);
+    write(value);
 }
 
 NumberText::NumberText(std::uint64_t value) noexcept {
-    size_ = static_cast<std::size_t>(std::to_chars(chars_, chars_ + sizeof chars_, value).ptr - chars_);
+    write(value);
 }
 
 NumberText::NumberText(double value) noexcept {
-    if (std::isnan(value)) {  // one text for all of them, whatever their sign
-        std::memcpy(chars_, "nan", size_ = 3);
-    } else if (!writeShortDecimal(value)) {
-        size_ = static_cast<std::size_t>(std::to_chars(chars_, chars_ + sizeof chars_, value).ptr - chars_);
-    }
+    if (std::isnan(value))
+        write(std::numeric_limits<double>::quiet_NaN());  // one text for all of them, whatever their sign
+    else if (!writeShortDecimal(value))
+        write(value);
 }
 
 /// Numbers with few decimals, as people enter them. A decimal of at most 15 digits that rounds to the value
 /// is its shortest text, since two such decimals never round to one double.
 bool NumberText::writeShortDecimal(double value) noexcept {
-    constexpr unsigned places = 6;
+    constexpr int places = 6;
     const double size = std::fabs(value);
     if (!(size >= 1e-3 && size < 1e9)) return false;
     auto digits = static_cast<std::uint64_t>(size * powersOfTen[places] + 0.5);
     if (static_cast<double>(digits) / powersOfTen[places] != size) return false;
-    unsigned decimals = places;
-    for (; decimals && digits % 10 == 0; digits /= 10) --decimals;
-    const unsigned count = countDigits(digits);
-    if (!decimals && digits % 10000 == 0) return false;  // "1e+05" may be shorter
-    char *at = chars_;
-    if (std::signbit(value)) *at++ = '-';
-    const unsigned width = decimals >= count ? decimals + 2 : count + (decimals ? 1 : 0);
-    size_ = static_cast<std::size_t>(at - chars_) + width;
-    char *last = at + width;
-    for (unsigned i = 0; i < decimals; ++i, digits /= 10) *--last = static_cast<char>('0' + digits % 10);
-    if (decimals) *--last = '.';
-    while (last != at) {
-        *--last = static_cast<char>('0' + digits % 10);
-        digits /= 10;
+    int decimals = places;
+    if (digits % 1000 == 0) {
+        digits /= 1000;
+        decimals -= 3;
     }
+    for (; decimals && digits % 10 == 0; digits /= 10) --decimals;
+    if (!decimals && digits % 10000 == 0) return false;  // "1e+05" may be shorter
+    char *at = chars_ + sizeof chars_;
+    end_ = at;
+    for (; decimals; --decimals, digits /= 10) {
+        *--at = static_cast<char>('0' + digits % 10);
+        if (decimals == 1) *--at = '.';
+    }
+    do {
+        *--at = static_cast<char>('0' + digits % 10);
+        digits /= 10;
+    } while (digits);
+    if (std::signbit(value)) *--at = '-';
+    begin_ = at;
     return true;
 }
 

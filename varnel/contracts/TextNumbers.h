@@ -16,13 +16,18 @@ class NumberText {
     /// The shortest text that reads back as the same double; "nan", "inf", "-inf" for the others.
     explicit NumberText(double value) noexcept;
 
-    std::string_view view() const noexcept { return {chars_, size_}; }
+    std::string_view view() const noexcept { return {begin_, static_cast<std::size_t>(end_ - begin_)}; }
+    NumberText(const NumberText &) = delete;
+    NumberText &operator=(const NumberText &) = delete;
 
   private:
+    template <class Number>
+    void write(Number value) noexcept;
     bool writeShortDecimal(double value) noexcept;
 
-    std::size_t size_ = 0;
     char chars_[32];
+    const char *begin_ = chars_;
+    const char *end_ = chars_;
 };
 
 /// The longest integer at the start of the text, blanks before it aside, with an optional sign. 0 without a

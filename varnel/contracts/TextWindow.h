@@ -17,7 +17,8 @@ struct TextPosition {
 };
 
 /// A window on the text of a stream: UTF-8 with LF as the only line end, whatever the stream holds. It moves
-/// forward over the text and grows only when one piece does not fit. A zero byte stands behind its end.
+/// forward over the text and grows only when one piece does not fit. A zero byte stands behind its end, and
+/// sixteen more may be read.
 class TextWindow {
   public:
     explicit TextWindow(std::istream &stream);
@@ -44,6 +45,7 @@ class TextWindow {
     bool appendUtf8Bytes();
     bool appendOtherBytes();
     void finish(std::size_t from);
+    static std::size_t countLines(const char *at, const char *end);
 
     std::istream &stream_;
     TextEncoding encoding_ = TextEncoding::utf8;

@@ -8,10 +8,16 @@ namespace varnel {
 
 namespace {
 
-std::string plainForm(WholeInteger value) {
-    std::string text(NumberText(value.magnitude).view());
-    if (value.negative) text.insert(text.begin(), '-');
-    return text;
+template <class Values, class Key>
+auto *firstIn(Values &values, const Key &key) {
+    const auto found = values.find(key);
+    return found == values.end() ? nullptr : found->second.first;
+}
+
+template <class Values, class Key>
+void removeFrom(Values &values, const Key &key, KzXmlData &child) {
+    const auto found = values.find(key);
+    if (found != values.end() && !found->second.remove(child)) values.erase(found);
 }
 
 }  // namespace
@@ -45,34 +51,30 @@ void XmlChildIndex::Table::add(KzXmlData &child, std::string_view value) {
     if (kind == Kind::text) {
         texts[std::string(value)].add(child);
     } else if (kind == Kind::integer) {
-        if (const auto whole = readWholeInteger(value)) texts[plainForm(*whole)].add(child);
+        if (const auto whole = readWholeInteger(value))
+            integers(whole->negative)[whole->magnitude].add(child);
     } else if (const double number = readDouble(value); !std::isnan(number)) {
         reals[number].add(child);
     }
 }
 
 void XmlChildIndex::Table::remove(KzXmlData &child, std::string_view value) {
-    if (kind == Kind::real) {
-        const auto found = reals.find(readDouble(value));
-        if (found != reals.end() && !found->second.remove(child)) reals.erase(found);
-        return;
+    if (kind == Kind::text) {
+        removeFrom(texts, std::string(value), child);
+    } else if (kind == Kind::integer) {
+        if (const auto whole = readWholeInteger(value))
+            removeFrom(integers(whole->negative), whole->magnitude, child);
+    } else if (const double number = readDouble(value); !std::isnan(number)) {
+        removeFrom(reals, number, child);
     }
-    const auto whole = kind == Kind::integer ? readWholeInteger(value) : std::nullopt;
-    if (kind == Kind::integer && !whole) return;
-    const auto found = texts.find(whole ? plainForm(*whole) : std::string(value));
-    if (found != texts.end() && !found->second.remove(child)) texts.erase(found);
 }
 
 KzXmlData *XmlChildIndex::find(std::string_view name, std::string_view key, std::string_view text) {
-    auto &table = giveTable(name, key, Kind::text);
-    const auto found = table.texts.find(std::string(text));
-    return found == table.texts.end() ? nullptr : found->second.first;
+    return firstIn(giveTable(name, key, Kind::text).texts, std::string(text));
 }
 
 KzXmlData *XmlChildIndex::find(std::string_view name, std::string_view key, WholeInteger value) {
-    auto &table = giveTable(name, key, Kind::integer);
-    const auto found = table.texts.find(plainForm(value));
-    return found == table.texts.end() ? nullptr : found->second.first;
+    return firstIn(giveTable(name, key, Kind::integer).integers(value.negative), value.magnitude);
 }
 
 KzXmlData *XmlChildIndex::find(std::string_view name, std::string_view key, double value, double tolerance) {

@@ -51,9 +51,14 @@ class XmlChildIndex {
         std::string name;
         std::string key;
         Kind kind;
-        std::unordered_map<std::string, Bearers> texts{};  // integers in their plain form
+        std::unordered_map<std::string, Bearers> texts{};
+        std::unordered_map<std::uint64_t, Bearers> wholes{};
+        std::unordered_map<std::uint64_t, Bearers> negatives{};  // by magnitude
         std::map<double, Bearers> reals{};
 
+        std::unordered_map<std::uint64_t, Bearers> &integers(bool negative) {
+            return negative ? negatives : wholes;
+        }
         void add(KzXmlData &child, std::string_view value);
         void remove(KzXmlData &child, std::string_view value);
     };

@@ -1,8 +1,17 @@
 #include "varnel/contracts/XmlName.h"
 
-#include <cstring>
+#include <algorithm>
+
+#include "varnel/contracts/XmlCharacters.h"
 
 namespace varnel {
+
+XmlName::XmlName(std::string_view name, std::uint32_t nameHash)
+    : text(name), hash(nameHash), quick(isShort() && xml::isPlainName(name)) {
+    const std::size_t size = std::min(name.size(), sizeof start);
+    std::memcpy(start, text.data(), size);
+    std::memset(mask, 0xFF, size);
+}
 
 XmlNames::XmlNames() : slots_(64) {}
 

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,10 +14,26 @@ namespace varnel {
 
 /// The text of an element name or attribute key, shared by all that bear it.
 struct XmlName final : Shared {
-    XmlName(std::string_view name, std::uint32_t nameHash) : text(name), hash(nameHash) {}
+    XmlName(std::string_view name, std::uint32_t nameHash);
+
+    /// Whether a short name stands there. Sixteen bytes must be readable; what follows is not looked at.
+    bool standsAt(const char *at) const {
+        std::uint64_t words[2];
+        std::memcpy(words, at, sizeof words);
+        return (((words[0] ^ start[0]) & mask[0]) | ((words[1] ^ start[1]) & mask[1])) == 0 && isShort();
+    }
+    bool isShort() const { return text.size() <= sizeof start; }
+    /// Copies a short name to where sixteen bytes have room and answers its end.
+    char *copyTo(char *to) const {
+        std::memcpy(to, start, sizeof start);
+        return to + text.size();
+    }
 
     const std::string text;
     const std::uint32_t hash;
+    const bool quick;             // short, and can be written just as it is
+    std::uint64_t start[2] = {};  // the first sixteen bytes, for copying and comparing at one go
+    std::uint64_t mask[2] = {};   // which of them belong to the name
     XmlName *follower = nullptr;  // the name that came after this one last time: documents repeat themselves
     std::uint64_t tag = 0;        // the last start tag that had it as a key, for finding it a second time
 };
@@ -31,12 +48,6 @@ class XmlNames {
 
     /// The one object for this text, made if it is new.
     XmlName *give(std::string_view text);
-    /// The same, quicker where names follow one another as they did before.
-    XmlName *giveAfter(XmlName *previous, std::string_view text) {
-        if (!previous) return give(text);
-        if (!previous->follower || previous->follower->text != text) previous->follower = give(text);
-        return previous->follower;
-    }
 
     static std::uint32_t hash(std::string_view text);
 

@@ -49,8 +49,8 @@ bool XmlReader::passAttributes(const char *&at) {
 
 bool XmlReader::passAttribute(const char *&at) {
     const char *begin = at;
-    if (!passName(at)) return false;
-    XmlName *key = lastName_ = store_.names().giveAfter(lastName_, between(begin, at));
+    XmlName *key = takeName(at);
+    if (!key) return false;
     if (key->tag == tag_) fail(begin, "attribute " + key->text + " is there twice");
     key->tag = tag_;
     if (*at != '=') {
@@ -91,6 +91,22 @@ bool XmlReader::passBlanks(const char *&at) const {
 bool XmlReader::passName(const char *&at) const {
     while (is(*at, xml::namePart)) ++at;
     return at != window_.end();
+}
+
+/// The shared name that stands here; null if the window ends with it. Names mostly follow one another as they
+/// did before, so that one comparison replaces looking for the end and for the name.
+XmlName *XmlReader::takeName(const char *&at) {
+    XmlName *guess = lastName_ ? lastName_->follower : nullptr;
+    if (guess && guess->standsAt(at) && !is(at[guess->text.size()], xml::namePart)) {
+        at += guess->text.size();
+        if (at == window_.end()) return nullptr;
+        return lastName_ = guess;
+    }
+    const char *begin = at;
+    if (!passName(at)) return nullptr;
+    XmlName *name = store_.names().give(between(begin, at));
+    if (lastName_) lastName_->follower = name;
+    return lastName_ = name;
 }
 
 /// To the mark that ends a comment, an instruction or character data.

@@ -107,8 +107,8 @@ bool XmlReader::readStartTag() {
     if (open_.empty() && root_) fail(at_, "a second root element");
     if (open_.size() == deepest) fail(at_, "elements are nested more than 1000 deep");
     const char *at = at_ + 1;
-    if (!passName(at)) return false;
-    XmlName *name = lastName_ = store_.names().giveAfter(lastName_, between(at_ + 1, at));
+    XmlName *name = takeName(at);
+    if (!name) return false;
     attributes_.clear();
     if (*at != '>' && !passAttributes(at)) return false;
     const bool empty = *at == '/';
@@ -125,7 +125,13 @@ bool XmlReader::readStartTag() {
 bool XmlReader::readEndTag() {
     const char *at = at_ + 2;
     if (open_.empty()) fail(at_, "an end tag without a start tag");
-    const std::string &name = open_.back().element->getName();
+    const XmlName &expected = *open_.back().element->name_;
+    if (expected.standsAt(at) && at[expected.text.size()] == '>') {
+        at_ = at + expected.text.size() + 1;
+        closeElement();
+        return true;
+    }
+    const std::string &name = expected.text;
     if (!is(*at, xml::nameStart) && at != window_.end()) failAtCharacter(at, "a name is expected after </");
     if (!passName(at)) return false;
     if (between(at_ + 2, at) != name)

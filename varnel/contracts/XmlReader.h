@@ -60,6 +60,7 @@ class XmlReader {
     bool passValue(const char *&at, char quote, bool &plain) const;
     bool passBlanks(const char *&at) const;
     bool passName(const char *&at) const;
+    XmlName *takeName(const char *&at);
     bool passContent(const char *&at, std::string_view mark) const;
     bool startsWith(std::string_view text, bool &cut) const;
 

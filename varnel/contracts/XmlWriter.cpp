@@ -19,38 +19,125 @@ using xml::is;
 namespace {
 
 constexpr std::size_t capacity = std::size_t{1} << 16;
+constexpr std::ptrdiff_t behind = 128;  // beyond the end there is room for short pieces together
 constexpr std::string_view replacement = "\xEF\xBF\xBD";
 
 struct Level {
     const KzXmlData *element;
-    std::size_t next;
-    bool inRow;  // its children follow one another without line ends
+    KzXmlData *const *next;  // child
+    KzXmlData *const *last;
+    bool inRow;  // the children follow one another without line ends
 };
+
+Level levelOf(const KzXmlData &element, bool inRow) {
+    const auto &children = element.getChildren();
+    return {&element, children.data(), children.data() + children.size(), inRow};
+}
+
+/// Whether one of eight bytes is a control character, beyond ASCII, or one of < > & ".
+bool anySpecial(std::uint64_t word) {
+    constexpr std::uint64_t ones = 0x0101010101010101U;
+    constexpr std::uint64_t highs = 0x8080808080808080U;
+    const auto below = [](std::uint64_t bytes, std::uint64_t limit) {
+        return (bytes - ones * limit) & ~bytes;
+    };
+    const std::uint64_t angle = (word | ones * 0x02) ^ (ones * 0x3E);      // < and > differ in one bit
+    const std::uint64_t ampersand = (word | ones * 0x04) ^ (ones * 0x26);  // & and " too
+    return ((word | below(word, 0x20) | below(angle, 1) | below(ampersand, 1)) & highs) != 0;
+}
+
+template <class Word>
+Word load(const char *at) {
+    Word word;
+    std::memcpy(&word, at, sizeof word);
+    return word;
+}
+
+/// Copies a text of at most sixteen bytes, in overlapping halves so that no loop depends on its length. False
+/// if a byte needs a look.
+inline bool copyShort(char *to, const char *from, std::size_t size) {
+    if (size >= 8) {
+        const auto first = load<std::uint64_t>(from);
+        const auto last = load<std::uint64_t>(from + size - 8);
+        std::memcpy(to, &first, 8);
+        std::memcpy(to + size - 8, &last, 8);
+        return !anySpecial(first) && !anySpecial(last);
+    }
+    if (size >= 4) {
+        const auto first = load<std::uint32_t>(from);
+        const auto last = load<std::uint32_t>(from + size - 4);
+        std::memcpy(to, &first, 4);
+        std::memcpy(to + size - 4, &last, 4);
+        return !anySpecial(first | std::uint64_t{last} << 32);
+    }
+    bool plain = true;
+    for (const std::size_t place : {std::size_t{0}, size / 2, size - 1}) {
+        to[place] = from[place];
+        plain = plain && !is(from[place], xml::mayBeEscaped);
+    }
+    return plain;
+}
+
+/// Copies up to the first byte that needs a look.
+char *copyPlain(char *to, const char *&at, const char *end) {
+    for (; end - at >= 8; at += 8, to += 8) {
+        const auto word = load<std::uint64_t>(at);
+        if (anySpecial(word)) break;
+        std::memcpy(to, &word, sizeof word);
+    }
+    while (at != end && !is(*at, xml::mayBeEscaped)) *to++ = *at++;
+    return to;
+}
+
+/// The first 64 are always written: a fixed length is quicker than the right one.
+inline char *copyBlanks(char *to, std::size_t size) {
+    std::memset(to, ' ', 64);
+    if (size > 64) std::memset(to + 64, ' ', size - 64);
+    return to + size;
+}
+
+constexpr std::size_t longestShort = 16;  // texts that are copied whole
+
+bool isQuick(const XmlName &name, const std::string &text) {
+    return name.quick && !text.empty() && text.size() <= longestShort;
+}
 
 }  // namespace
 
 XmlWriter::XmlWriter(std::ostream &stream, bool indent)
-    : stream_(stream), indent_(indent), buffer_(new char[capacity]) {}
+    : stream_(stream),
+      indent_(indent),
+      buffer_(new char[capacity + behind]),
+      at_(buffer_.get()),
+      end_(at_ + capacity) {}
+
+/// For that many bytes and a few short pieces beside them.
+inline void XmlWriter::giveRoom(std::size_t size) {
+    if (static_cast<std::ptrdiff_t>(size) > end_ - at_) flush();
+}
+
+inline void XmlWriter::put(char c) {
+    giveRoom(0);
+    *at_++ = c;
+}
 
 void XmlWriter::write(const KzXmlData &root) {
     put("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n");
     std::vector<Level> levels;
-    if (begin(root, 0, false)) levels.push_back({&root, 0, !indent_ || !xml::isBlank(root.getData())});
+    if (begin(root, 0, false)) levels.push_back(levelOf(root, !indent_ || !xml::isBlank(root.getData())));
     while (!levels.empty()) {
         Level &top = levels.back();
-        const auto &children = top.element->getChildren();
-        if (top.next < children.size()) {
-            const KzXmlData &child = *children[top.next++];
+        if (top.next != top.last) {
+            const KzXmlData &child = **top.next++;
             const bool inRow = top.inRow;
             if (begin(child, levels.size(), inRow))
-                levels.push_back({&child, 0, inRow || !xml::isBlank(child.getData())});
+                levels.push_back(levelOf(child, inRow || !xml::isBlank(child.getData())));
             continue;
         }
         const KzXmlData &element = *top.element;
         if (!top.inRow) putIndent(levels.size() - 1);
         levels.pop_back();
-        end(element);
-        if (levels.empty() || !levels.back().inRow) put('\n');
+        putEndTag(*element.name_, !levels.empty() && levels.back().inRow);
     }
     flush();
 }
@@ -58,11 +145,14 @@ void XmlWriter::write(const KzXmlData &root) {
 /// Writes a leaf whole, of other elements the start tag; true if the children are to follow.
 bool XmlWriter::begin(const KzXmlData &element, std::size_t level, bool inRow) {
     if (!inRow) putIndent(level);
+    const XmlName &name = *element.name_;
+    const std::string &text = element.data_;
+    const XmlParts *parts = element.parts_;
+    if (!parts && putPlainLeaf(name, text, inRow)) return false;
     put('<');
-    putName(element.getName());
-    if (element.parts_) putAttributes(element);
-    const std::string &text = element.getData();
-    if (!element.getChildren().empty()) {
+    putName(name);
+    if (parts) putAttributes(parts->attributes);
+    if (parts && !parts->children.empty()) {
         put('>');
         // Blank text beside children would not be read back: the lines are laid out instead.
         if (!xml::isBlank(text))
@@ -72,59 +162,107 @@ bool XmlWriter::begin(const KzXmlData &element, std::size_t level, bool inRow) {
         return true;
     }
     if (text.empty()) {
-        put("/>");
+        put(inRow ? "/>" : "/>\n");
     } else {
         put('>');
         putEscaped(text, false);
-        end(element);
+        putEndTag(name, inRow);
     }
-    if (!inRow) put('\n');
     return false;
 }
 
-void XmlWriter::end(const KzXmlData &element) {
-    put("</");
-    putName(element.getName());
-    put('>');
+/// A leaf of the usual kind at one go: short name and text, no attributes. False if it is of another kind.
+bool XmlWriter::putPlainLeaf(const XmlName &name, const std::string &text, bool inRow) {
+    if (!isQuick(name, text)) return false;
+    giveRoom(0);
+    char *to = at_;
+    *to++ = '<';
+    to = name.copyTo(to);
+    *to++ = '>';
+    if (!copyShort(to, text.data(), text.size())) return false;
+    to += text.size();
+    *to++ = '<';
+    *to++ = '/';
+    to = name.copyTo(to);
+    to[0] = '>';
+    to[1] = '\n';
+    at_ = to + (inRow ? 1 : 2);
+    return true;
 }
 
-void XmlWriter::putAttributes(const KzXmlData &element) {
-    element.parts_->attributes.each([this](const KzXmlAttributeData &attribute) {
+void XmlWriter::putEndTag(const XmlName &name, bool inRow) {
+    giveRoom(0);
+    at_[0] = '<';
+    at_[1] = '/';
+    at_ += 2;
+    putName(name);
+    giveRoom(0);
+    at_[0] = '>';
+    at_[1] = '\n';
+    at_ += inRow ? 1 : 2;
+}
+
+void XmlWriter::putAttributes(const XmlAttributes &attributes) {
+    attributes.each([this](const KzXmlAttributeData &attribute) {
+        if (putPlainAttribute(*attribute.key_, attribute.data_)) return;
         put(' ');
-        putName(attribute.getKey());
+        putName(*attribute.key_);
         put("=\"");
-        putEscaped(attribute.getData(), true);
+        putEscaped(attribute.data_, true);
         put('"');
     });
+}
+
+bool XmlWriter::putPlainAttribute(const XmlName &key, const std::string &value) {
+    if (!isQuick(key, value)) return false;
+    giveRoom(0);
+    char *to = at_;
+    *to++ = ' ';
+    to = key.copyTo(to);
+    *to++ = '=';
+    *to++ = '"';
+    if (!copyShort(to, value.data(), value.size())) return false;
+    to += value.size();
+    *to++ = '"';
+    at_ = to;
+    return true;
 }
 
 /// Two blanks a level. Beyond what can be read again it stays the same: a very deep document would be
 /// nothing but blanks.
 void XmlWriter::putIndent(std::size_t level) {
-    static const std::string blanks(2 * XmlReader::deepest, ' ');
-    put(std::string_view(blanks).substr(0, 2 * std::min(level, XmlReader::deepest)));
+    const std::size_t size = 2 * std::min(level, XmlReader::deepest);
+    giveRoom(size);
+    at_ = copyBlanks(at_, size);
 }
 
 /// What cannot be a name becomes one.
-void XmlWriter::putName(std::string_view name) {
-    if (xml::isPlainName(name)) {
-        put(name);
+void XmlWriter::putName(const XmlName &name) {
+    const std::string &text = name.text;
+    if (name.quick) {
+        giveRoom(0);
+        at_ = name.copyTo(at_);
+        return;
+    }
+    if (xml::isPlainName(text)) {
+        put(text);
         return;
     }
     std::string sound;
-    if (name.empty() || !is(name.front(), xml::nameStart)) sound.push_back('_');
-    for (const char c : name) sound.push_back(is(c, xml::namePart) ? c : '_');
+    if (text.empty() || !is(text.front(), xml::nameStart)) sound.push_back('_');
+    for (const char c : text) sound.push_back(is(c, xml::namePart) ? c : '_');
     putEscaped(sound, false);
 }
 
 void XmlWriter::putEscaped(std::string_view text, bool inAttribute) {
+    constexpr std::ptrdiff_t step = 4096;
     const char *at = text.data();
     const char *end = at + text.size();
     while (at != end) {
-        const char *run = at;
-        while (at != end && !is(*at, xml::mayBeEscaped)) ++at;
-        put({run, static_cast<std::size_t>(at - run)});
-        if (at != end) at = putSpecial(at, end, inAttribute);
+        const char *stop = at + std::min(end - at, step);
+        giveRoom(static_cast<std::size_t>(stop - at));
+        at_ = copyPlain(at_, at, stop);
+        if (at != stop) at = putSpecial(at, end, inAttribute);
     }
 }
 
@@ -141,45 +279,48 @@ const char *XmlWriter::putSpecial(const char *at, const char *end, bool inAttrib
         put(length == 3 && isNoncharacter(at) ? replacement : std::string_view(at, length));
         return at + length;
     }
-    if (c == '<')
-        put("&lt;");
-    else if (c == '>')
-        put("&gt;");
-    else if (c == '&')
-        put("&amp;");
-    else if (c == '"')
-        inAttribute ? put("&quot;") : put('"');
-    else if (c == '\r')
-        put("&#13;");
-    else if (c == '\n')
-        inAttribute ? put("&#10;") : put('\n');
-    else if (c == '\t')
-        inAttribute ? put("&#9;") : put('\t');
-    else
-        put(replacement);
+    switch (c) {
+        case '<':
+            put("&lt;");
+            break;
+        case '>':
+            put("&gt;");
+            break;
+        case '&':
+            put("&amp;");
+            break;
+        case '\r':
+            put("&#13;");
+            break;
+        case '"':
+            put(inAttribute ? "&quot;" : "\"");
+            break;
+        case '\n':
+            put(inAttribute ? "&#10;" : "\n");
+            break;
+        case '\t':
+            put(inAttribute ? "&#9;" : "\t");
+            break;
+        default:
+            put(replacement);
+    }
     return at + 1;
 }
 
 void XmlWriter::put(std::string_view text) {
-    if (text.size() > capacity - size_) {
+    if (text.size() > capacity) {
         flush();
-        if (text.size() > capacity) {
-            stream_.write(text.data(), static_cast<std::streamsize>(text.size()));
-            return;
-        }
+        stream_.write(text.data(), static_cast<std::streamsize>(text.size()));
+        return;
     }
-    std::memcpy(buffer_.get() + size_, text.data(), text.size());
-    size_ += text.size();
-}
-
-void XmlWriter::put(char c) {
-    if (size_ == capacity) flush();
-    buffer_[size_++] = c;
+    giveRoom(text.size());
+    std::memcpy(at_, text.data(), text.size());
+    at_ += text.size();
 }
 
 void XmlWriter::flush() {
-    stream_.write(buffer_.get(), static_cast<std::streamsize>(size_));
-    size_ = 0;
+    stream_.write(buffer_.get(), at_ - buffer_.get());
+    at_ = buffer_.get();
 }
 
 }  // namespace varnel
