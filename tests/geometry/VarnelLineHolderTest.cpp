@@ -307,7 +307,7 @@ TEST(VarnelLineHolder, OpenChainsCompareAsRings) {
     // The same lines with another one as the first, which no open chain could be.
     const VarnelBeamGeo axis = chain(square);
     VarnelBeamGeo turned;
-    for (const std::size_t i : {1, 2, 0}) turned.addLine(new VarnelStraight(square[i], square[i + 1]));
+    for (const std::size_t i : {1u, 2u, 0u}) turned.addLine(new VarnelStraight(square[i], square[i + 1]));
     EXPECT_EQ(1, axis == turned);
     EXPECT_EQ(1, chain({square[3], square[2], square[1], square[0]}) == axis);
     EXPECT_EQ(1, chain({square[0], square[1]}) == chain({square[1], square[0]}));

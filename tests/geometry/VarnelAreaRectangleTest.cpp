@@ -1,3 +1,5 @@
+#include "varnel/geometry/VarnelAreaRectangle.h"
+
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -7,16 +9,11 @@
 #include "tests/support/Places.h"
 #include "tests/support/VirtualSlot.h"
 #include "varnel/contracts/KzMath.h"
-#include "varnel/geometry/VarnelAreaPolygon.h"
-#include "varnel/geometry/VarnelAreaRectangle.h"
 #include "varnel/geometry/VarnelLine.h"
-#include "varnel/geometry/VarnelPoint.h"
-#include "varnel/geometry/VarnelPolyline.h"
 
 namespace {
 
 using varnel::isNear;
-using varnel::virtualSlot;
 
 using Points = std::vector<KzVector3D>;
 
@@ -32,45 +29,8 @@ struct Parameters {
     double angle = 9.0;
 };
 
-TEST(VarnelAreaPolygon, AddsNoVirtualOperations) {
-    EXPECT_EQ(16, virtualSlot(&VarnelAreaPolygon::checkRightHandedXY));
-    EXPECT_EQ(16, virtualSlot(&VarnelAreaRectangle::checkRightHandedXY));
-}
-
-TEST(VarnelAreaPolygon, IsBuiltOfItsVerticesInOrder) {
-    const VarnelAreaPolygon polygon(Points{p, q, r, s});
-    EXPECT_EQ((Points{p, q, r, s, p}), polygon.getCoordinatesOfPoints());
-    EXPECT_TRUE(polygon.getChanged());
-    EXPECT_EQ(0u, VarnelAreaPolygon(Points{}).getNumLines());
-    EXPECT_EQ(0u, VarnelAreaPolygon(Points{p}).getNumLines());
-    EXPECT_EQ(2u, VarnelAreaPolygon(Points{p, q}).getNumLines());
-}
-
-TEST(VarnelAreaPolygon, WithoutVerticesIsNotChanged) {
-    EXPECT_EQ(0u, VarnelAreaPolygon().getNumLines());
-    EXPECT_FALSE(VarnelAreaPolygon().getChanged());
-}
-
-TEST(VarnelAreaPolygon, CopiesAndAssignmentsAreIndependent) {
-    auto source = std::make_unique<VarnelAreaPolygon>(Points{p, q, r});
-    const VarnelAreaPolygon copy(*source);
-    VarnelAreaPolygon target;
-    target = *source;
-    const VarnelAreaPolygon &itself = target;
-    const VarnelLine *line = target.getLine(0);
-    target = itself;
-    EXPECT_EQ(line, target.getLine(0));
-    source.reset();
-    EXPECT_EQ(1, copy == target);
-    EXPECT_EQ((Points{p, q, r, p}), copy.getCoordinatesOfPoints());
-    target = VarnelArea(VarnelAreaRectangle(p, q, r, s));
-    EXPECT_EQ(4u, target.getNumLines());
-}
-
-TEST(VarnelAreaPolygon, ItsCloneIsAPlainArea) {
-    const std::unique_ptr<VarnelLineHolder> clone(VarnelAreaPolygon(Points{p, q, r}).clone());
-    EXPECT_EQ(typeid(VarnelArea), typeid(*clone.get()));
-    EXPECT_EQ(3u, clone->getNumLines());
+TEST(VarnelAreaRectangle, AddsNoVirtualOperations) {
+    EXPECT_EQ(16, varnel::virtualSlot(&VarnelAreaRectangle::checkRightHandedXY));
 }
 
 TEST(VarnelAreaRectangle, TakesFourCornersInOrder) {
@@ -156,50 +116,9 @@ TEST(VarnelAreaRectangle, CopiesAndAssignmentsAreIndependent) {
 
 TEST(VarnelAreaRectangle, ItsCloneIsAPlainArea) {
     const std::unique_ptr<VarnelLineHolder> clone(VarnelAreaRectangle(p, q, r, s).clone());
-    EXPECT_EQ(typeid(VarnelArea), typeid(*clone.get()));
+    const VarnelLineHolder &made = *clone;
+    EXPECT_EQ(typeid(VarnelArea), typeid(made));
     EXPECT_EQ(4u, clone->getNumLines());
-}
-
-TEST(VarnelPolyline, CountsLinesBetweenItsPoints) {
-    VarnelPolyline polyline;
-    EXPECT_EQ(0, polyline.numberOfLines());
-    polyline.add(p);
-    EXPECT_EQ(0, polyline.numberOfLines());
-    polyline.add(q);
-    EXPECT_EQ(1, polyline.numberOfLines());
-    polyline.add(q);
-    EXPECT_EQ(2, polyline.numberOfLines());
-    EXPECT_EQ(p, polyline.getVertex(0));
-    EXPECT_EQ(q, polyline.getPoint(2).getCoor());
-}
-
-TEST(VarnelPolyline, APointPastTheEndIsTheOrigin) {
-    VarnelPolyline polyline;
-    EXPECT_EQ(KzVector3D(), polyline.getVertex(0));
-    polyline.add(q);
-    EXPECT_EQ(KzVector3D(), polyline.getVertex(1));
-    EXPECT_EQ(KzVector3D(), polyline.getPoint(static_cast<std::size_t>(-1)).getCoor());
-}
-
-TEST(VarnelPolyline, CopiesShareTheirPointsAndTheLastOneFreesThem) {
-    VarnelPolyline target;
-    target.add(s);
-    {
-        VarnelPolyline source;
-        source.add(p);
-        source.add(q);
-        VarnelPolyline copy(source);
-        target = copy;
-        const VarnelPolyline &itself = target;
-        target = itself;
-        EXPECT_EQ(&source.getPoint(1), &copy.getPoint(1));
-        EXPECT_EQ(&source.getPoint(1), &target.getPoint(1));
-        copy.add(r);
-        EXPECT_EQ(1, source.numberOfLines()) << "the lists are their own";
-    }
-    EXPECT_EQ(1, target.numberOfLines());
-    EXPECT_EQ(q, target.getVertex(1));
-    EXPECT_EQ(1u, target.getPoint(1).owners());
 }
 
 }  // namespace
