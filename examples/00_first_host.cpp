@@ -8,12 +8,12 @@ int main() {
     VarnelManager manager(&factory);
     Varnel &model = *manager.getDatabase();
 
+    const KzVector3D corners[] = {{0, 0, 3}, {6, 0, 3}, {6, 4, 3}, {0, 4, 3}};
     VarnelPlate *slab = model.givePlate(true);
-    slab->setArea(model.giveAreaRectangle({0, 0, 3}, {6, 0, 3}, {6, 4, 3}, {0, 4, 3}));
+    slab->setArea(model.giveAreaRectangle(corners[0], corners[1], corners[2], corners[3]));
     slab->setThick(0.25);
     const int fixedInZ = 4;
-    for (const KzVector3D &corner : slab->getGeo()->getCoordinatesOfPoints())
-        model.givePointBoundaryRectan(corner, fixedInZ, 0.3, 0.3);
+    for (const KzVector3D &corner : corners) model.givePointBoundaryRectan(corner, fixedInZ, 0.3, 0.3);
     manager.output("first_host.xml");
 
     VarnelManager reader(&factory);
