@@ -364,6 +364,16 @@ TEST(VarnelArea, MeltingKeepsAStartThatAnotherLineEndsOn) {
     EXPECT_EQ(0, CountedPoint::alive);
 }
 
+TEST(VarnelArea, MeltingToAMissingEndDoesNothing) {
+    VarnelArea area = ring({p, q, r});
+    area.getLine(2)->setP1(nullptr);
+    area.getLine(2)->swap();
+    ASSERT_EQ(nullptr, area.getLine(2)->getEnd());
+    area.meltFirstAndLast();
+    EXPECT_EQ(p, area.getCoor(0));
+    ASSERT_NE(nullptr, area.getLine(0)->getStart());
+}
+
 TEST(VarnelArea, MeltingASingleLineTiesItToItself) {
     VarnelArea area;
     area.addLine(new VarnelStraight(p, q));

@@ -148,6 +148,14 @@ TEST(VarnelLine, StationsOneHundredthApartAreTwo) {
     }
 }
 
+TEST(VarnelLine, StationsOneHundredthApartAreTwoBeforeALaterOneToo) {
+    VarnelStraight line = straightLine();
+    line.addXi(0.0);
+    line.addXi(1.0);
+    line.addXi(0.01);
+    EXPECT_EQ((std::vector<double>{0.0, 0.01, 1.0}), stations(line));
+}
+
 TEST(VarnelLine, AStationBetweenTwoNearOnesIsDroppedForEither) {
     VarnelStraight line = straightLine();
     line.addXi(0.1);

@@ -178,6 +178,9 @@ TEST(VarnelStraight, WithoutAStartPointEveryQuestionIsHarmless) {
     line.swap();
     EXPECT_EQ(up, line.getStartVec());
     EXPECT_EQ(nullptr, line.getEnd());
+    EXPECT_EQ(KzVector3D(), line.getEndVec());
+    EXPECT_EQ(0.0, line.getLength());
+    EXPECT_FALSE(line.distance(east, north, KzMatrix44::getId(), value));
 }
 
 TEST(VarnelStraight, TheStationOfAMiddlePointIsOneHalfWhateverTheLength) {

@@ -149,8 +149,8 @@ KzVector3D VarnelLineHolder::getNormal() const {
         v = getCoor(i) - origin;
         if (!d.isCollinear(v, 0.01)) break;
     }
-    return v.crossProduct(d)
-        .normalize();  // the operands are meant this way round: against the z of getBase()
+    // The operands are meant this way round: the normal runs against the z axis of getBase().
+    return v.crossProduct(d).normalize();
 }
 
 int VarnelLineHolder::operator==(const VarnelLineHolder &other) const {
