@@ -41,6 +41,7 @@ KzXmlData::KzXmlData(XmlName *name, KzXmlData *parent, std::uint32_t offset)
 KzXmlData::~KzXmlData() {
     if (!parts_) return;
     freeChildren();
+    parts_->attributes.clear(ownArena());
     if (auto *store = ownStore())
         store->freeParts(parts_);
     else
@@ -70,7 +71,12 @@ void KzXmlData::freeChildren() {
 }
 
 varnel::XmlStore *KzXmlData::ownStore() const {
-    return offset_ ? &varnel::XmlPool::storeAt(this, offset_) : nullptr;
+    return offset_ ? &varnel::XmlArena::storeAt(this, offset_) : nullptr;
+}
+
+varnel::XmlArena *KzXmlData::ownArena() const {
+    auto *store = ownStore();
+    return store ? &store->arena() : nullptr;
 }
 
 /// The memory of the document that this element is part of, as far as a few steps show it. An element that
@@ -135,7 +141,7 @@ void KzXmlData::flush() {
     if (auto *index = indexAbove()) index->remove(*this);
     parts_->index.reset();
     freeChildren();
-    parts_->attributes.clear();
+    parts_->attributes.clear(ownArena());
 }
 
 void KzXmlData::setName(std::string_view name) {
@@ -160,7 +166,7 @@ void KzXmlData::setAttribute(std::string_view key, std::string_view value, bool)
     auto *attribute = findAttribute(key);
     if (!attribute) {
         const varnel::Held<XmlName> name(nameFor(key, nearStore()));
-        attribute = giveParts().attributes.append(name.get(), value);
+        attribute = giveParts().attributes.append(name.get(), value, ownArena());
     } else if (attribute->data_ != value) {
         if (index) index->removeValue(*this, *attribute);
         attribute->data_.assign(value);

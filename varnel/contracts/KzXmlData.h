@@ -11,6 +11,7 @@
 #include "varnel/contracts/XmlName.h"
 
 namespace varnel {
+class XmlArena;
 class XmlAttributes;
 class XmlChildIndex;
 class XmlReader;
@@ -86,6 +87,7 @@ class VARNEL_EXPORT KzXmlData {
 
     static void destroy(KzXmlData *element);
     varnel::XmlStore *ownStore() const;
+    varnel::XmlArena *ownArena() const;
     varnel::XmlStore *nearStore() const;
     varnel::XmlParts &giveParts();
     void freeChildren();
@@ -98,7 +100,7 @@ class VARNEL_EXPORT KzXmlData {
     std::string data_;
     varnel::XmlParts *parts_ = nullptr;  // owned; most elements are leaves and need none
     std::uint32_t order_ = 0;            // rises from child to child; 0: not among the parent's children
-    std::uint32_t offset_ = 0;           // place in a page of the document's memory; 0: an object by itself
+    std::uint32_t offset_ = 0;           // place in a chunk of the document's memory; 0: an object by itself
 };
 
 #endif

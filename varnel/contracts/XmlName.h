@@ -34,8 +34,9 @@ struct XmlName final : Shared {
     const bool quick;             // short, and can be written just as it is
     std::uint64_t start[2] = {};  // the first sixteen bytes, for copying and comparing at one go
     std::uint64_t mask[2] = {};   // which of them belong to the name
-    XmlName *follower = nullptr;  // the name that came after this one last time: documents repeat themselves
-    std::uint64_t tag = 0;        // the last start tag that had it as a key, for finding it a second time
+    XmlName *followers[2] =
+        {};                 // names that came after this one, the last one first: documents repeat themselves
+    std::uint64_t tag = 0;  // the last start tag that had it as a key, for finding it a second time
 };
 
 /// The names of one document, each held once. Lives as long as its document; names that are still used

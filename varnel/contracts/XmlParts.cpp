@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <new>
 
+#include "varnel/contracts/XmlStore.h"
+
 namespace varnel {
 
 namespace {
@@ -27,10 +29,10 @@ KzXmlAttributeData *XmlAttributes::find(std::string_view key) const {
     return nullptr;
 }
 
-KzXmlAttributeData *XmlAttributes::append(XmlName *key, std::string_view value) {
+KzXmlAttributeData *XmlAttributes::append(XmlName *key, std::string_view value, XmlArena *arena) {
     if (!last_ || last_->count == last_->capacity) {
-        Block *block =
-            makeBlock(last_ ? std::min<std::size_t>(last_->capacity * std::size_t{2}, largestBlock) : 2);
+        const std::size_t capacity = last_ ? last_->capacity * std::size_t{2} : 2;
+        Block *block = makeBlock(std::min(capacity, largestBlock), arena);
         (last_ ? last_->next : first_) = block;
         last_ = block;
     }
@@ -46,23 +48,28 @@ KzXmlAttributeData *XmlAttributes::append(XmlName *key, std::string_view value) 
     return attribute;
 }
 
-void XmlAttributes::reserve(std::size_t count) {
-    if (!first_ && count) first_ = last_ = makeBlock(count);
+void XmlAttributes::reserve(std::size_t count, XmlArena *arena) {
+    if (!first_ && count) first_ = last_ = makeBlock(count, arena);
 }
 
-void XmlAttributes::clear() {
+void XmlAttributes::clear(XmlArena *arena) {
     index_.reset();
     while (Block *block = first_) {
         first_ = block->next;
         for (std::uint32_t i = block->count; i > 0; --i) block->items()[i - 1].~KzXmlAttributeData();
-        ::operator delete(block);
+        const std::size_t size = sizeOf(block->capacity);
+        if (arena && size <= XmlArena::largest)
+            arena->giveBack(block, size);
+        else
+            ::operator delete(block);
     }
     last_ = nullptr;
 }
 
-XmlAttributes::Block *XmlAttributes::makeBlock(std::size_t capacity) {
+XmlAttributes::Block *XmlAttributes::makeBlock(std::size_t capacity, XmlArena *arena) {
     static_assert(sizeof(Block) % alignof(KzXmlAttributeData) == 0);
-    void *memory = ::operator new(sizeof(Block) + capacity * sizeof(KzXmlAttributeData));
+    const std::size_t size = sizeOf(capacity);
+    void *memory = arena && size <= XmlArena::largest ? arena->take(size).memory : ::operator new(size);
     return new (memory) Block{nullptr, 0, static_cast<std::uint32_t>(capacity)};
 }
 

@@ -13,22 +13,26 @@
 
 namespace varnel {
 
+class XmlArena;
+
 /// The attributes of one element in the order in which they came. They lie in blocks that never move, so
-/// that pointers to them stay valid.
+/// that pointers to them stay valid. Every call that may take or give back memory is told from where: the
+/// arena of the element's document, or null for an element by itself.
 class XmlAttributes {
   public:
     XmlAttributes() = default;
     XmlAttributes(const XmlAttributes &) = delete;
     XmlAttributes &operator=(const XmlAttributes &) = delete;
-    ~XmlAttributes() { clear(); }
+    /// Must have been cleared.
+    ~XmlAttributes() = default;
 
     bool empty() const { return !first_; }
     KzXmlAttributeData *find(std::string_view key) const;
     /// The key must be a new one.
-    KzXmlAttributeData *append(XmlName *key, std::string_view value);
+    KzXmlAttributeData *append(XmlName *key, std::string_view value, XmlArena *arena);
     /// Makes room for exactly this many; only while empty.
-    void reserve(std::size_t count);
-    void clear();
+    void reserve(std::size_t count, XmlArena *arena);
+    void clear(XmlArena *arena);
 
     template <class Visit>
     void each(Visit visit) const {
@@ -48,7 +52,10 @@ class XmlAttributes {
     };
     using Index = std::unordered_map<std::string_view, KzXmlAttributeData *>;
 
-    static Block *makeBlock(std::size_t capacity);
+    static std::size_t sizeOf(std::size_t capacity) {
+        return sizeof(Block) + capacity * sizeof(KzXmlAttributeData);
+    }
+    static Block *makeBlock(std::size_t capacity, XmlArena *arena);
     void fillIndex() const;
 
     Block *first_ = nullptr;

@@ -1,5 +1,6 @@
 #include <charconv>
 #include <cstring>
+#include <utility>
 
 #include "varnel/contracts/XmlCharacters.h"
 #include "varnel/contracts/XmlReader.h"
@@ -12,6 +13,10 @@ namespace {
 
 std::string_view between(const char *begin, const char *end) {
     return {begin, static_cast<std::size_t>(end - begin)};
+}
+
+bool isNameAt(const XmlName &name, const char *at) {
+    return name.standsAt(at) && !is(at[name.text.size()], xml::namePart);
 }
 
 struct Entity {
@@ -96,16 +101,18 @@ bool XmlReader::passName(const char *&at) const {
 /// The shared name that stands here; null if the window ends with it. Names mostly follow one another as they
 /// did before, so that one comparison replaces looking for the end and for the name.
 XmlName *XmlReader::takeName(const char *&at) {
-    XmlName *guess = lastName_ ? lastName_->follower : nullptr;
-    if (guess && guess->standsAt(at) && !is(at[guess->text.size()], xml::namePart)) {
-        at += guess->text.size();
-        if (at == window_.end()) return nullptr;
-        return lastName_ = guess;
+    if (lastName_) {
+        XmlName *&first = lastName_->followers[0];
+        if (first && !isNameAt(*first, at)) std::swap(first, lastName_->followers[1]);
+        if (first && isNameAt(*first, at)) {
+            at += first->text.size();
+            return at == window_.end() ? nullptr : lastName_ = first;
+        }
     }
     const char *begin = at;
     if (!passName(at)) return nullptr;
     XmlName *name = store_.names().give(between(begin, at));
-    if (lastName_) lastName_->follower = name;
+    if (lastName_) lastName_->followers[0] = name;
     return lastName_ = name;
 }
 

@@ -17,10 +17,23 @@ std::string_view between(const char *begin, const char *end) {
     return {begin, static_cast<std::size_t>(end - begin)};
 }
 
+/// Indentation is long: eight blanks at a time. The window may be read beyond its end that far.
+const char *skipBlanks(const char *at) {
+    if (*at == '\n') ++at;
+    for (;; at += 8) {
+        std::uint64_t word;
+        std::memcpy(&word, at, sizeof word);
+        if (word != 0x2020202020202020U) break;
+    }
+    while (is(*at, xml::blank)) ++at;
+    return at;
+}
+
 }  // namespace
 
 XmlReader::~XmlReader() {
-    for (auto *element : children_) KzXmlData::destroy(element);
+    for (auto *element : children_)
+        if (element) KzXmlData::destroy(element);
     while (!open_.empty()) {
         if (open_.back().element) KzXmlData::destroy(open_.back().element);
         open_.pop_back();
@@ -51,8 +64,7 @@ bool XmlReader::readOutside() {
 }
 
 bool XmlReader::readInside() {
-    const char *at = at_;
-    while (is(*at, xml::blank)) ++at;
+    const char *at = skipBlanks(at_);
     const bool blanks = *at == '<';
     bool plain = true;
     if (!blanks && !passText(at, plain)) return false;
@@ -110,6 +122,7 @@ bool XmlReader::readStartTag() {
     XmlName *name = takeName(at);
     if (!name) return false;
     attributes_.clear();
+    if (*at == '>' && readPlainLeaf(*name, at + 1)) return true;
     if (*at != '>' && !passAttributes(at)) return false;
     const bool empty = *at == '/';
     if (empty && at[1] != '>') {
@@ -119,6 +132,24 @@ bool XmlReader::readStartTag() {
     openElement(name);
     at_ = at + (empty ? 2 : 1);
     if (empty) closeElement();
+    return true;
+}
+
+/// Most elements have a short name, no attributes and a text that stands for itself: they are taken in with
+/// their end tag at one go. False, and nothing has happened, for all others.
+bool XmlReader::readPlainLeaf(XmlName &name, const char *at) {
+    const char *begin = at;
+    while (!is(*at, xml::textStop)) ++at;
+    const std::size_t size = name.text.size();
+    if (at == begin || *at != '<' || at[1] != '/' || open_.empty()) return false;
+    if (window_.end() - at < static_cast<std::ptrdiff_t>(size + 3)) return false;
+    if (!name.standsAt(at + 2) || at[size + 2] != '>') return false;
+    const Open &top = open_.back();
+    children_.push_back(nullptr);
+    KzXmlData *element = children_.back() = store_.makeElement(&name, top.element);
+    element->order_ = static_cast<std::uint32_t>(children_.size() - top.firstChild);
+    element->data_.assign(begin, at);
+    at_ = at + size + 3;
     return true;
 }
 
@@ -189,16 +220,20 @@ void XmlReader::openElement(XmlName *name) {
     open_.push_back({nullptr, children_.size()});
     KzXmlData *element = open_.back().element = store_.makeElement(name, parent);
     begun_ = true;
-    if (attributes_.empty()) return;
-    auto &list = element->giveParts().attributes;
-    list.reserve(attributes_.size());
+    if (!attributes_.empty()) fillAttributes(*element);
+}
+
+void XmlReader::fillAttributes(KzXmlData &element) const {
+    auto &list = element.giveParts().attributes;
+    XmlArena *arena = &store_.arena();
+    list.reserve(attributes_.size(), arena);
     for (const auto &attribute : attributes_) {
         if (attribute.plain) {
-            list.append(attribute.key, attribute.value);
+            list.append(attribute.key, attribute.value, arena);
         } else {
             std::string value;
             appendDecoded(value, attribute.value, true);
-            list.append(attribute.key, value);
+            list.append(attribute.key, value, arena);
         }
     }
 }

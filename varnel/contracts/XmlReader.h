@@ -68,7 +68,9 @@ class XmlReader {
     void appendDecoded(std::string &to, std::string_view text, bool inAttribute) const;
     const char *appendReference(std::string &to, const char *at, const char *end) const;
     char32_t numberedCharacter(std::string_view digits, const char *at) const;
+    bool readPlainLeaf(XmlName &name, const char *at);
     void openElement(XmlName *name);
+    void fillAttributes(KzXmlData &element) const;
     void closeElement();
 
     [[noreturn]] void fail(const char *at, const std::string &what) const;

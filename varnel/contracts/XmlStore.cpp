@@ -4,67 +4,71 @@
 #include <new>
 
 #include "varnel/contracts/KzXmlData.h"
+#include "varnel/contracts/LargePages.h"
 #include "varnel/contracts/XmlParts.h"
 
 namespace varnel {
 
 namespace {
 
-constexpr std::size_t smallestPage = 4096;
-constexpr std::size_t largestPage = std::size_t{1} << 20;
+constexpr std::size_t smallestChunk = 4096;
+constexpr std::size_t largestChunk = std::size_t{1} << 24;
 
 }  // namespace
 
-XmlPool::~XmlPool() {
-    for (auto *page : pages_) ::operator delete(page);
+XmlArena::~XmlArena() {
+    for (auto *chunk : chunks_) ::operator delete(chunk);
 }
 
-XmlPool::Slot XmlPool::take() {
-    if (Free *slot = free_) {
-        free_ = slot->next;
+XmlArena::Slot XmlArena::take(std::size_t size) {
+    if (Free *slot = free_[size / 8]) {
+        free_[size / 8] = slot->next;
         return {slot, slot->offset};
     }
-    if (used_ + size_ > end_) addPage();
+    if (used_ + size > end_) addChunk();
     const std::size_t offset = used_;
-    used_ += size_;
-    return {reinterpret_cast<char *>(pages_.back()) + offset, static_cast<std::uint32_t>(offset)};
+    used_ += size;
+    return {reinterpret_cast<char *>(chunks_.back()) + offset, static_cast<std::uint32_t>(offset)};
 }
 
-void XmlPool::giveBack(void *memory, std::uint32_t offset) noexcept {
-    free_ = new (memory) Free{free_, offset};
+void XmlArena::giveBack(void *memory, std::size_t size, std::uint32_t offset) noexcept {
+    free_[size / 8] = new (memory) Free{free_[size / 8], offset};
 }
 
-XmlStore &XmlPool::storeAt(const void *memory, std::uint32_t offset) {
-    return *reinterpret_cast<const Page *>(static_cast<const char *>(memory) - offset)->store;
+XmlStore &XmlArena::storeAt(const void *memory, std::uint32_t offset) {
+    return *reinterpret_cast<const Chunk *>(static_cast<const char *>(memory) - offset)->store;
 }
 
-void XmlPool::addPage() {
-    const std::size_t bytes = pages_.empty() ? smallestPage : std::min<std::size_t>(end_ * 2, largestPage);
-    pages_.reserve(pages_.size() + 1);
-    pages_.push_back(new (::operator new(bytes)) Page{&store_, bytes});
-    used_ = sizeof(Page);
+/// An eighth of what is there already: large documents get large chunks and waste little of the last one.
+void XmlArena::addChunk() {
+    const std::size_t bytes =
+        std::clamp(total_ / 8 / smallestChunk * smallestChunk, smallestChunk, largestChunk);
+    chunks_.reserve(chunks_.size() + 1);
+    void *memory = ::operator new(bytes);
+    preferLargePages(memory, bytes);
+    chunks_.push_back(new (memory) Chunk{&store_, bytes});
+    total_ += bytes;
+    used_ = sizeof(Chunk);
     end_ = bytes;
 }
 
-XmlStore::XmlStore() : elements_(*this, sizeof(KzXmlData)), parts_(*this, sizeof(XmlParts)) {}
-
 KzXmlData *XmlStore::makeElement(XmlName *name, KzXmlData *parent) {
-    const auto slot = elements_.take();
+    const auto slot = arena_.take(sizeof(KzXmlData));
     return new (slot.memory) KzXmlData(name, parent, slot.offset);
 }
 
 void XmlStore::freeElement(KzXmlData *element, std::uint32_t offset) {
     element->~KzXmlData();
-    elements_.giveBack(element, offset);
+    arena_.giveBack(element, sizeof(KzXmlData), offset);
 }
 
 XmlParts *XmlStore::makeParts() {
-    return new (parts_.take().memory) XmlParts;
+    return new (arena_.take(sizeof(XmlParts)).memory) XmlParts;
 }
 
 void XmlStore::freeParts(XmlParts *parts) {
     parts->~XmlParts();
-    parts_.giveBack(parts, 0);
+    arena_.giveBack(parts, sizeof(XmlParts));
 }
 
 }  // namespace varnel

@@ -1,6 +1,7 @@
 #ifndef VARNEL_CONTRACTS_XMLSTORE_H
 #define VARNEL_CONTRACTS_XMLSTORE_H
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <vector>
@@ -11,29 +12,33 @@ class KzXmlData;
 
 namespace varnel {
 
-struct XmlParts;
 class XmlStore;
+struct XmlParts;
 
-/// Memory for objects of one size, taken in pages that grow with the number of objects. What was given back
-/// last is handed out first.
-class XmlPool {
+/// Memory for small objects, taken in chunks that grow with what is used, one object after the other. What
+/// was given back last is handed out first, for an object of the same size.
+class XmlArena {
   public:
-    XmlPool(XmlStore &store, std::size_t size) : store_(store), size_(size) {}
-    XmlPool(const XmlPool &) = delete;
-    XmlPool &operator=(const XmlPool &) = delete;
-    ~XmlPool();
+    explicit XmlArena(XmlStore &store) : store_(store) {}
+    XmlArena(const XmlArena &) = delete;
+    XmlArena &operator=(const XmlArena &) = delete;
+    ~XmlArena();
+
+    /// Objects are multiples of eight bytes and at most this large.
+    static constexpr std::size_t largest = 512;
 
     struct Slot {
         void *memory;
-        std::uint32_t offset;  // from the start of its page, never 0
+        std::uint32_t offset;  // from the start of its chunk, never 0
     };
-    Slot take();
-    void giveBack(void *memory, std::uint32_t offset) noexcept;
+    Slot take(std::size_t size);
+    /// An offset is only asked of sizes that are taken with one.
+    void giveBack(void *memory, std::size_t size, std::uint32_t offset = 0) noexcept;
 
     static XmlStore &storeAt(const void *memory, std::uint32_t offset);
 
   private:
-    struct Page {
+    struct Chunk {
         XmlStore *store;
         std::uint64_t bytes;
     };
@@ -42,24 +47,25 @@ class XmlPool {
         std::uint32_t offset;
     };
 
-    void addPage();
+    void addChunk();
 
     XmlStore &store_;
-    const std::size_t size_;
-    std::vector<Page *> pages_;
-    std::size_t used_ = 0;  // bytes of the last page
+    std::vector<Chunk *> chunks_;
+    std::size_t total_ = 0;
+    std::size_t used_ = 0;  // bytes of the last chunk
     std::size_t end_ = 0;
-    Free *free_ = nullptr;
+    std::array<Free *, largest / 8 + 1> free_{};  // by size
 };
 
 /// The memory of one document: names, elements and their parts. Outlives the elements made from it.
 class XmlStore {
   public:
-    XmlStore();
+    XmlStore() : arena_(*this) {}
     XmlStore(const XmlStore &) = delete;
     XmlStore &operator=(const XmlStore &) = delete;
 
     XmlNames &names() { return names_; }
+    XmlArena &arena() { return arena_; }
     KzXmlData *makeElement(XmlName *name, KzXmlData *parent);
     void freeElement(KzXmlData *element, std::uint32_t offset);
     /// For an element of this store.
@@ -68,8 +74,7 @@ class XmlStore {
 
   private:
     XmlNames names_;
-    XmlPool elements_;
-    XmlPool parts_;
+    XmlArena arena_;
 };
 
 }  // namespace varnel
