@@ -35,9 +35,6 @@ KzXmlData *walk(const std::vector<KzXmlData *> &children, std::string_view name,
 KzXmlData::KzXmlData(std::string_view name, KzXmlData *parent)
     : name_(nameFor(name, parent ? parent->nearStore() : nullptr)), parent_(parent) {}
 
-KzXmlData::KzXmlData(XmlName *name, KzXmlData *parent, std::uint32_t offset)
-    : name_(name), parent_(parent), offset_(offset) {}
-
 KzXmlData::~KzXmlData() {
     if (!parts_) return;
     freeChildren();

@@ -83,7 +83,8 @@ class VARNEL_EXPORT KzXmlData {
     friend class varnel::XmlStore;
     friend class varnel::XmlWriter;
 
-    KzXmlData(varnel::XmlName *name, KzXmlData *parent, std::uint32_t offset);
+    KzXmlData(varnel::XmlName *name, KzXmlData *parent, std::uint32_t offset, std::string_view text = {})
+        : name_(name), parent_(parent), data_(text), offset_(offset) {}
 
     static void destroy(KzXmlData *element);
     varnel::XmlStore *ownStore() const;

@@ -91,11 +91,10 @@ std::size_t unfinishedUtf8(std::string_view text) noexcept {
 
 const char *findInvalidUtf8(const char *at, const char *end) noexcept {
     for (;;) {
-        std::uint64_t word = 0;
-        while (end - at >= 8) {
-            std::memcpy(&word, at, 8);
-            if (word & 0x8080808080808080U) break;
-            at += 8;
+        std::uint64_t words[4];
+        for (; end - at >= 32; at += 32) {
+            std::memcpy(words, at, sizeof words);
+            if ((words[0] | words[1] | words[2] | words[3]) & 0x8080808080808080U) break;
         }
         while (at != end && byteOf(*at) < 0x80) ++at;
         if (at == end) return end;

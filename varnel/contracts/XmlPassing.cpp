@@ -69,7 +69,11 @@ bool XmlReader::passAttribute(const char *&at) {
     const char *value = ++at;
     bool plain = true;
     if (!passValue(at, quote, plain)) return false;
-    attributes_.push_back({key, between(value, at), plain});
+    auto &attribute = attributes_.emplace_back();
+    attribute.key = key;
+    attribute.begin = value;
+    attribute.end = at;
+    attribute.plain = plain;
     ++at;
     return true;
 }

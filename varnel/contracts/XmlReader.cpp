@@ -6,6 +6,7 @@
 #include "varnel/contracts/Tools/Error.h"
 #include "varnel/contracts/XmlCharacters.h"
 #include "varnel/contracts/XmlParts.h"
+#include "varnel/contracts/XmlScan.h"
 
 namespace varnel {
 
@@ -15,18 +16,6 @@ namespace {
 
 std::string_view between(const char *begin, const char *end) {
     return {begin, static_cast<std::size_t>(end - begin)};
-}
-
-/// Indentation is long: eight blanks at a time. The window may be read beyond its end that far.
-const char *skipBlanks(const char *at) {
-    if (*at == '\n') ++at;
-    for (;; at += 8) {
-        std::uint64_t word;
-        std::memcpy(&word, at, sizeof word);
-        if (word != 0x2020202020202020U) break;
-    }
-    while (is(*at, xml::blank)) ++at;
-    return at;
 }
 
 }  // namespace
@@ -64,7 +53,17 @@ bool XmlReader::readOutside() {
 }
 
 bool XmlReader::readInside() {
-    const char *at = skipBlanks(at_);
+    const char *at = xml::passIndent(at_);
+    if (*at != '<' || !pending_.empty()) return readText(at);
+    const bool child = is(at[1], xml::nameStart);
+    const bool lastTag = at[1] == '/' && (at == at_ || children_.size() != open_.back().firstChild);
+    if (!child && !lastTag) return readText(at);
+    at_ = at;  // past blanks that only lay out the document
+    return child ? readStartTag() : readEndTag();
+}
+
+/// A run of text of which the blanks up to `at` have been seen, and the markup behind it.
+bool XmlReader::readText(const char *at) {
     const bool blanks = *at == '<';
     bool plain = true;
     if (!blanks && !passText(at, plain)) return false;
@@ -146,9 +145,8 @@ bool XmlReader::readPlainLeaf(XmlName &name, const char *at) {
     if (!name.standsAt(at + 2) || at[size + 2] != '>') return false;
     const Open &top = open_.back();
     children_.push_back(nullptr);
-    KzXmlData *element = children_.back() = store_.makeElement(&name, top.element);
+    KzXmlData *element = children_.back() = store_.makeElement(&name, top.element, between(begin, at));
     element->order_ = static_cast<std::uint32_t>(children_.size() - top.firstChild);
-    element->data_.assign(begin, at);
     at_ = at + size + 3;
     return true;
 }
@@ -228,11 +226,12 @@ void XmlReader::fillAttributes(KzXmlData &element) const {
     XmlArena *arena = &store_.arena();
     list.reserve(attributes_.size(), arena);
     for (const auto &attribute : attributes_) {
+        const std::string_view text = between(attribute.begin, attribute.end);
         if (attribute.plain) {
-            list.append(attribute.key, attribute.value, arena);
+            list.append(attribute.key, text, arena);
         } else {
             std::string value;
-            appendDecoded(value, attribute.value, true);
+            appendDecoded(value, text, true);
             list.append(attribute.key, value, arena);
         }
     }

@@ -38,13 +38,15 @@ class XmlReader {
     };
     struct Attribute {
         XmlName *key;
-        std::string_view value;
+        const char *begin;
+        const char *end;
         bool plain;  // stands for itself
     };
 
     bool readPiece() { return open_.empty() ? readOutside() : readInside(); }
     bool readOutside();
     bool readInside();
+    bool readText(const char *at);
     bool readMarkup();
     bool readStartTag();
     bool readEndTag();

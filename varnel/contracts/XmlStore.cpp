@@ -52,9 +52,9 @@ void XmlArena::addChunk() {
     end_ = bytes;
 }
 
-KzXmlData *XmlStore::makeElement(XmlName *name, KzXmlData *parent) {
+KzXmlData *XmlStore::makeElement(XmlName *name, KzXmlData *parent, std::string_view text) {
     const auto slot = arena_.take(sizeof(KzXmlData));
-    return new (slot.memory) KzXmlData(name, parent, slot.offset);
+    return new (slot.memory) KzXmlData(name, parent, slot.offset, text);
 }
 
 void XmlStore::freeElement(KzXmlData *element, std::uint32_t offset) {

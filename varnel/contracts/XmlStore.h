@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 #include <vector>
 
 #include "varnel/contracts/XmlName.h"
@@ -66,7 +67,7 @@ class XmlStore {
 
     XmlNames &names() { return names_; }
     XmlArena &arena() { return arena_; }
-    KzXmlData *makeElement(XmlName *name, KzXmlData *parent);
+    KzXmlData *makeElement(XmlName *name, KzXmlData *parent, std::string_view text = {});
     void freeElement(KzXmlData *element, std::uint32_t offset);
     /// For an element of this store.
     XmlParts *makeParts();

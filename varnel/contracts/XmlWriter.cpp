@@ -11,6 +11,7 @@
 #include "varnel/contracts/XmlCharacters.h"
 #include "varnel/contracts/XmlParts.h"
 #include "varnel/contracts/XmlReader.h"
+#include "varnel/contracts/XmlScan.h"
 
 namespace varnel {
 
@@ -34,23 +35,13 @@ Level levelOf(const KzXmlData &element, bool inRow) {
     return {&element, children.data(), children.data() + children.size(), inRow};
 }
 
-/// Whether one of eight bytes is a control character, beyond ASCII, or one of < > & ".
-bool anySpecial(std::uint64_t word) {
-    constexpr std::uint64_t ones = 0x0101010101010101U;
-    constexpr std::uint64_t highs = 0x8080808080808080U;
-    const auto below = [](std::uint64_t bytes, std::uint64_t limit) {
-        return (bytes - ones * limit) & ~bytes;
-    };
-    const std::uint64_t angle = (word | ones * 0x02) ^ (ones * 0x3E);      // < and > differ in one bit
-    const std::uint64_t ampersand = (word | ones * 0x04) ^ (ones * 0x26);  // & and " too
-    return ((word | below(word, 0x20) | below(angle, 1) | below(ampersand, 1)) & highs) != 0;
-}
+using xml::word::load;
 
-template <class Word>
-Word load(const char *at) {
-    Word word;
-    std::memcpy(&word, at, sizeof word);
-    return word;
+/// Whether one of eight bytes is a control character, beyond ASCII, or one of < > & ".
+bool anySpecial(std::uint64_t bytes) {
+    using namespace xml::word;
+    return ((bytes & highs) | markBelow(bytes, 0x20) | markEither(bytes, '>', 0x02) |
+            markEither(bytes, '&', 0x04)) != 0;
 }
 
 /// Copies a text of at most sixteen bytes, in overlapping halves so that no loop depends on its length. False
