@@ -8,6 +8,7 @@
 #include "varnel/geometry/VarnelLine.h"
 #include "varnel/geometry/VarnelPoint.h"
 #include "varnel/geometry/VarnelStraight.h"
+#include "varnel/members/VarnelLineBoundaryData.h"
 
 namespace varnel {
 
@@ -41,35 +42,32 @@ BoundaryLines::Ends BoundaryLines::endsOf(const VarnelLine &line) {
 }
 
 void BoundaryLines::append(const VarnelLine *line, VarnelLineBoundaryData *boundary) {
-    if (!line || !complete_) return;
+    if (!complete_) return;
+    if (!line) {
+        entries_.push_back({boundary, nullptr, false});
+        return;
+    }
     const VarnelCircle *arc = nullptr;
     complete_ = classify(*line, arc);
     if (!complete_) return;
-    if (!arc) {
-        straights_.emplace(endsOf(*line), boundary);
-        return;
+    Bundle &bundle = (arc ? arcs_ : straights_)[endsOf(*line)];
+    if (!bundle.first) {
+        bundle.first = boundary;
+        if (arc) bundle.centre = arc->getCenterVec();
     }
-    Arcs &arcs = arcs_[endsOf(*line)];
-    if (!arcs.first) {
-        arcs.centre = arc->getCenterVec();
-        arcs.first = boundary;
-    } else if (!arcs.firstOfAnotherCentre && arcs.centre != arc->getCenterVec()) {
-        arcs.firstOfAnotherCentre = boundary;
-    }
+    // Arcs are meant to have the same points only if their centres differ, so an arc never finds itself.
+    const bool sameCentre = arc && bundle.centre == arc->getCenterVec();
+    if (arc && !sameCentre && !bundle.firstOfAnotherCentre) bundle.firstOfAnotherCentre = boundary;
+    entries_.push_back({boundary, &bundle, !sameCentre});
 }
 
-/// Arcs are meant to have the same points only if their centres differ, so an arc never finds itself.
-VarnelLineBoundaryData *BoundaryLines::find(const VarnelLine &line) const {
-    const VarnelCircle *arc = nullptr;
-    classify(line, arc);
-    if (!arc) {
-        const auto found = straights_.find(endsOf(line));
-        return found == straights_.end() ? nullptr : found->second;
+void BoundaryLines::setReferences() const {
+    for (const Entry &entry : entries_) {
+        VarnelLineBoundaryData *reference = nullptr;
+        if (const Bundle *bundle = entry.bundle)
+            reference = entry.refersToFirst ? bundle->first : bundle->firstOfAnotherCentre;
+        entry.boundary->setReference(reference);
     }
-    const auto found = arcs_.find(endsOf(line));
-    if (found == arcs_.end()) return nullptr;
-    const Arcs &arcs = found->second;
-    return arcs.centre != arc->getCenterVec() ? arcs.first : arcs.firstOfAnotherCentre;
 }
 
 }  // namespace varnel

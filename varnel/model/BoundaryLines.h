@@ -2,6 +2,7 @@
 #define VARNEL_MODEL_BOUNDARYLINES_H
 
 #include <unordered_map>
+#include <vector>
 
 #include "varnel/contracts/CoordinateHash.h"
 #include "varnel/contracts/KzVector3D.h"
@@ -11,17 +12,17 @@ class VarnelLineBoundaryData;
 
 namespace varnel {
 
-/// Answers for many lines which boundary comes first among those on a line with the same points, exactly as a
-/// walk with VarnelLine::hasSamePoints does, as long as there are straight lines and arcs with proper
-/// coordinates only. Lines are lent.
+/// Answers for all boundaries of a model which one comes first on a line with the same points, exactly as
+/// walks with VarnelLine::hasSamePoints do, as long as there are straight lines and arcs with proper
+/// coordinates only. Lines and boundaries are lent.
 class BoundaryLines {
   public:
     /// Enters a boundary behind all others. From the first line on of which too little is known, isComplete()
     /// is false, and the caller walks.
     void append(const VarnelLine *line, VarnelLineBoundaryData *boundary);
     bool isComplete() const { return complete_; }
-    /// Null if there is none. The line is one of those that were entered.
-    VarnelLineBoundaryData *find(const VarnelLine &line) const;
+    /// Lets each boundary refer to the first one on its line, or to none.
+    void setReferences() const;
 
   private:
     struct Ends {
@@ -33,16 +34,24 @@ class BoundaryLines {
             return CoordinateHash()(ends.low) * 31 + CoordinateHash()(ends.high);
         }
     };
-    struct Arcs {
-        KzVector3D centre;
+    /// All lines of one kind between the same ends.
+    struct Bundle {
+        KzVector3D centre;  // of the first arc
         VarnelLineBoundaryData *first = nullptr;
         VarnelLineBoundaryData *firstOfAnotherCentre = nullptr;
     };
+    struct Entry {
+        VarnelLineBoundaryData *boundary;
+        const Bundle *bundle;  // null for a boundary without a line
+        bool refersToFirst;
+    };
+    using Bundles = std::unordered_map<Ends, Bundle, EndsHash>;
 
     static Ends endsOf(const VarnelLine &line);
 
-    std::unordered_map<Ends, VarnelLineBoundaryData *, EndsHash> straights_;
-    std::unordered_map<Ends, Arcs, EndsHash> arcs_;
+    Bundles straights_;
+    Bundles arcs_;
+    std::vector<Entry> entries_;
     bool complete_ = true;
 };
 

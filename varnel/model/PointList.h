@@ -1,9 +1,10 @@
 #ifndef VARNEL_MODEL_POINTLIST_H
 #define VARNEL_MODEL_POINTLIST_H
 
+#include <cstddef>
 #include <list>
+#include <vector>
 
-#include "varnel/contracts/CoordinateHash.h"
 #include "varnel/contracts/Export.h"
 #include "varnel/geometry/PointWatch.h"
 
@@ -25,21 +26,34 @@ class VARNEL_EXPORT PointList {
     void clear();
     void swap(PointList &other) noexcept;
 
+    /// Prepares for some number of points, for speed alone.
+    void expect(std::size_t count) { expected_ = count; }
     /// The first point in the list at exactly these coordinates, or null.
     VarnelPoint *find(const KzVector3D &coordinates) const;
     /// The same; if there is none, a new point with the next number, at the end of the list.
     VarnelPoint *give(const KzVector3D &coordinates);
 
   private:
+    /// Open addressing; the table is a power of two long and at most two thirds full.
+    struct Slot {
+        VarnelPoint *point = nullptr;
+        std::size_t hash = 0;
+    };
+
     bool tabulate() const;
     void forgetTable() const;
+    void reserve(std::size_t count) const;
+    Slot &slotOf(const KzVector3D &coordinates, std::size_t hash) const;
+    void enter(VarnelPoint &point, std::size_t hash) const;
+    VarnelPoint *append(const KzVector3D &coordinates);
     VarnelPoint *findByWalk(const KzVector3D &coordinates) const;
 
     std::list<VarnelPoint *> points_;
-    mutable CoordinateIndex<VarnelPoint> table_;
+    mutable std::vector<Slot> table_;  // empty while there is none
+    mutable std::size_t used_ = 0;
     mutable PointWatch watch_;
-    mutable bool tabulated_ = false;
     mutable bool tabulable_ = true;
+    std::size_t expected_ = 0;
 };
 
 }  // namespace varnel

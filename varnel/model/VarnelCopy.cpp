@@ -1,4 +1,5 @@
 #include <memory>
+#include <vector>
 
 #include "varnel/loads/VarnelAreaLoad.h"
 #include "varnel/loads/VarnelBeamLoad.h"
@@ -29,7 +30,8 @@ std::unique_ptr<VarnelPointBoundary> copyOf(VarnelPointBoundary &boundary) {
 /// Adds copies with the source's numbers, which therefore may occur twice until the next numbering.
 template <class List>
 void addCopies(Varnel &target, const List &list) {
-    const List source(list);  // the target may be the source itself
+    // Noted first: the target may be the source itself.
+    const std::vector<typename List::value_type> source(list.begin(), list.end());
     for (auto *object : source) {
         if (!object) continue;
         auto copied = copyOf(*object);

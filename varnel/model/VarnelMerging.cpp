@@ -1,6 +1,8 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <deque>
+#include <memory>
 #include <unordered_map>
 #include <unordered_set>
 #include <vector>
@@ -21,66 +23,98 @@ namespace {
 
 constexpr double samePlace = 1e-6;  // places closer than this never move
 
-/// Places in the order of their lists, in cubes somewhat larger than the merge distance, so that a near place
-/// is in the cube of a place or in one beside it.
+/// Places in the order of their lists, in cubes much larger than the merge distance, so that the near places
+/// of a place are in its own cube and seldom in a second one.
 class PlaceGrid {
   public:
-    explicit PlaceGrid(double mergeDistance) : mergeDistance_(mergeDistance), cube_(2.0 * mergeDistance) {}
+    explicit PlaceGrid(double mergeDistance)
+        : mergeDistance_(mergeDistance), cube_(32.0 * mergeDistance), reach_(mergeDistance * (1.0 + 1e-9)) {}
 
-    double mergeDistance() const { return mergeDistance_; }
     /// Enters a place behind all others; answers its index.
     std::size_t append(const KzVector3D &place) {
-        cubes_[cubeOf(place)].push_back(places_.size());
-        places_.push_back(place);
-        return places_.size() - 1;
+        entries_.push_back({place, entries_.size(), nullptr});
+        link(entries_.back());
+        return entries_.size() - 1;
     }
-    const KzVector3D &place(std::size_t index) const { return places_[index]; }
+    const KzVector3D &place(std::size_t index) const { return entries_[index].place; }
     void move(std::size_t index, const KzVector3D &place) {
-        auto &former = cubes_[cubeOf(places_[index])];
-        former.erase(std::find(former.begin(), former.end(), index));
-        cubes_[cubeOf(place)].push_back(index);
-        places_[index] = place;
+        Entry &entry = entries_[index];
+        Entry **slot = &cubes_.find(cubeOf(entry.place))->first;
+        while (*slot != &entry) slot = &(*slot)->next;
+        *slot = entry.next;
+        entry.place = place;
+        link(entry);
     }
     /// Calls the function with index and distance of each place that is near: closer than the merge distance,
     /// and not the same place.
     template <class Function>
     void eachNear(const KzVector3D &place, Function function) const {
         if (!(mergeDistance_ > samePlace)) return;
-        const KzVector3D centre = cubeOf(place);
-        for (double x = -1.0; x <= 1.0; x += 1.0)
-            for (double y = -1.0; y <= 1.0; y += 1.0)
-                for (double z = -1.0; z <= 1.0; z += 1.0)
-                    eachNear(place, centre + KzVector3D(x, y, z), function);
+        const KzVector3D reach(reach_, reach_, reach_);
+        const KzVector3D low = cubeOf(place - reach);
+        const KzVector3D high = cubeOf(place + reach);
+        for (const double x : Steps(low.getX(), high.getX()))
+            for (const double y : Steps(low.getY(), high.getY()))
+                for (const double z : Steps(low.getZ(), high.getZ()))
+                    eachNear(place, KzVector3D(x, y, z), function);
     }
     /// The near place that comes first, not the nearest.
     bool findFirst(const KzVector3D &place, KzVector3D &out) const {
-        std::size_t first = places_.size();
+        std::size_t first = entries_.size();
         eachNear(place, [&first](std::size_t index, double) { first = std::min(first, index); });
-        if (first == places_.size()) return false;
-        out = places_[first];
+        if (first == entries_.size()) return false;
+        out = entries_[first].place;
         return true;
     }
 
   private:
+    struct Entry {
+        KzVector3D place;
+        std::size_t index;
+        Entry *next;  // in the same cube
+    };
+    struct Cube {
+        Entry *first = nullptr;
+    };
+    /// One cube or two neighbours along an axis.
+    struct Steps {
+        Steps(double low, double high) : values{low, high}, count(low == high ? 1 : 2) {}
+        const double *begin() const { return values; }
+        const double *end() const { return values + count; }
+        double values[2];
+        std::size_t count;
+    };
+
     KzVector3D cubeOf(const KzVector3D &place) const {
         return {std::floor(place.getX() / cube_), std::floor(place.getY() / cube_),
                 std::floor(place.getZ() / cube_)};
     }
+    void link(Entry &entry) {
+        const KzVector3D key = cubeOf(entry.place);
+        Cube *cube = cubes_.find(key);
+        if (!cube) {
+            storage_.emplace_back();
+            cube = cubes_.insert(key, &storage_.back());
+        }
+        entry.next = cube->first;
+        cube->first = &entry;
+    }
     template <class Function>
-    void eachNear(const KzVector3D &place, const KzVector3D &cube, Function function) const {
-        const auto found = cubes_.find(cube);
-        if (found == cubes_.end()) return;
-        for (const std::size_t index : found->second) {
-            const double distance = places_[index].distanceTo(place);
+    void eachNear(const KzVector3D &place, const KzVector3D &key, Function function) const {
+        const Cube *cube = cubes_.find(key);
+        for (const Entry *entry = cube ? cube->first : nullptr; entry; entry = entry->next) {
+            const double distance = entry->place.distanceTo(place);
             if (!KzMath::isFuzzyZero(distance, samePlace) && mergeDistance_ > distance)
-                function(index, distance);
+                function(entry->index, distance);
         }
     }
 
     double mergeDistance_;
     double cube_;
-    std::vector<KzVector3D> places_;
-    std::unordered_map<KzVector3D, std::vector<std::size_t>, varnel::CoordinateHash> cubes_;
+    double reach_;
+    std::deque<Entry> entries_;
+    std::deque<Cube> storage_;
+    varnel::CoordinateIndex<Cube> cubes_;
 };
 
 bool hasAxis(const VarnelBeam &beam) {
@@ -153,8 +187,8 @@ bool Merging::sharesAPoint(const VarnelLine &line) const {
 
 /// Beam ends come before point boundaries. Both ends are set in any case, which marks the line as changed.
 void Merging::lineLoadsOntoSystem() {
-    PlaceGrid system(mergeDistance_);
-    enterSystem(system);
+    auto system = std::make_unique<PlaceGrid>(mergeDistance_);
+    enterSystem(*system);
     for (const VarnelLineLoad *load : model_.getLineLoads()) {
         VarnelLine *line = load ? load->getLine() : nullptr;
         if (!line) continue;
@@ -162,13 +196,13 @@ void Merging::lineLoadsOntoSystem() {
         const KzVector3D formerEnd = line->getEndVec();
         KzVector3D start = formerStart;
         KzVector3D end = formerEnd;
-        system.findFirst(formerStart, start);
-        system.findFirst(formerEnd, end);
+        system->findFirst(formerStart, start);
+        system->findFirst(formerEnd, end);
         line->setStart(start);
         line->setEnd(end);
         if ((start != formerStart || end != formerEnd) && sharesAPoint(*line)) {
-            system = PlaceGrid(mergeDistance_);
-            enterSystem(system);
+            system = std::make_unique<PlaceGrid>(mergeDistance_);
+            enterSystem(*system);
         }
     }
 }

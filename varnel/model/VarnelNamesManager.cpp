@@ -133,8 +133,8 @@ void VarnelNamesManager::addTemporaryLineBoundary(const std::string &name) {
 
 void VarnelNamesManager::removeTemporaryLineBoundary(const std::string &name) {
     auto &names = temporaryLineBoundaries_;
-    const std::string removed(name);  // the caller may hand in one of our own
-    names.erase(std::remove(names.begin(), names.end(), removed), names.end());
+    const auto isRemoved = [removed = std::string(name)](const std::string &one) { return one == removed; };
+    names.erase(std::remove_if(names.begin(), names.end(), isRemoved), names.end());
 }
 
 void VarnelNamesManager::resetTemporaryLineBoundary() {

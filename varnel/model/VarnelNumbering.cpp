@@ -39,6 +39,7 @@ int raised(int &counter) {
 class GroupedPoints {
   public:
     GroupedPoints(const std::list<VarnelObjectGroup *> &groups, varnel::PointList &points) : groups_(groups) {
+        points.expect(points.list().size());
         kept_.swap(points);
         if (groups.empty()) kept_.clear();
         for (VarnelPoint *point : kept_.list()) former_.emplace(point, point);

@@ -82,8 +82,12 @@ void Varnel::setupBoundaryReferences() {
         lines.append(line, boundary);
         return false;
     });
-    eachBoundaryLine(*this, [this, &lines](const VarnelLine *line, VarnelLineBoundaryData *boundary) {
-        boundary->setReference(line && lines.isComplete() ? lines.find(*line) : findLineBoundaryToLine(line));
+    if (lines.isComplete()) {
+        lines.setReferences();
+        return;
+    }
+    eachBoundaryLine(*this, [this](const VarnelLine *line, VarnelLineBoundaryData *boundary) {
+        boundary->setReference(findLineBoundaryToLine(line));
         return false;
     });
 }
