@@ -94,8 +94,12 @@ bool NumberText::writeShortDecimal(double value) noexcept {
     constexpr int places = 6;
     const double size = std::fabs(value);
     if (!(size >= 1e-3 && size < 1e9)) return false;
-    auto digits = static_cast<std::uint64_t>(size * powersOfTen[places] + 0.5);
-    if (static_cast<double>(digits) / powersOfTen[places] != size) return false;
+    const auto isValue = [size](std::uint64_t n) {
+        return static_cast<double>(n) / powersOfTen[places] == size;
+    };
+    auto digits =
+        static_cast<std::uint64_t>(size * powersOfTen[places]);  // or one more, as the product was rounded
+    if (!isValue(digits) && !isValue(++digits)) return false;
     int decimals = places;
     if (digits % 1000 == 0) {
         digits /= 1000;

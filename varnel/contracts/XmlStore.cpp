@@ -4,7 +4,6 @@
 #include <new>
 
 #include "varnel/contracts/KzXmlData.h"
-#include "varnel/contracts/LargePages.h"
 #include "varnel/contracts/XmlParts.h"
 
 namespace varnel {
@@ -44,9 +43,7 @@ void XmlArena::addChunk() {
     const std::size_t bytes =
         std::clamp(total_ / 8 / smallestChunk * smallestChunk, smallestChunk, largestChunk);
     chunks_.reserve(chunks_.size() + 1);
-    void *memory = ::operator new(bytes);
-    preferLargePages(memory, bytes);
-    chunks_.push_back(new (memory) Chunk{&store_, bytes});
+    chunks_.push_back(new (::operator new(bytes)) Chunk{&store_, bytes});
     total_ += bytes;
     used_ = sizeof(Chunk);
     end_ = bytes;
