@@ -1,6 +1,7 @@
 #ifndef VARNEL_MODEL_BOUNDARYLINES_H
 #define VARNEL_MODEL_BOUNDARYLINES_H
 
+#include <cstddef>
 #include <unordered_map>
 #include <vector>
 
@@ -17,6 +18,11 @@ namespace varnel {
 /// coordinates only. Lines and boundaries are lent.
 class BoundaryLines {
   public:
+    /// Makes room for about that many boundaries.
+    void expect(std::size_t count) {
+        straights_.reserve(count);
+        entries_.reserve(count);
+    }
     /// Enters a boundary behind all others. From the first line on of which too little is known, isComplete()
     /// is false, and the caller walks.
     void append(const VarnelLine *line, VarnelLineBoundaryData *boundary);

@@ -91,6 +91,8 @@ Varnel::~Varnel() {
 void Varnel::exchangeObjects(Varnel &other) {
     unlistAllBoundaries();
     other.unlistAllBoundaries();
+    designDataIndex_.clear();
+    other.designDataIndex_.clear();
     pointBoundaries_.swap(other.pointBoundaries_);
     lineBoundaries_.swap(other.lineBoundaries_);
     beams_.swap(other.beams_);
@@ -112,6 +114,7 @@ void Varnel::exchangeObjects(Varnel &other) {
 }
 
 void Varnel::assign(const Varnel &other) {
+    designDataIndex_.walkOnly();
     systemChanged_ = other.systemChanged_;
     dBaseFactory_ = other.dBaseFactory_;
     plateNames_ = other.plateNames_;
@@ -203,6 +206,11 @@ void Varnel::dispose(List &list) {
     for (auto *object : dying) delete object;
 }
 
+void Varnel::disposeDesignData() {
+    designDataIndex_.clear();
+    dispose(designParameters_);
+}
+
 /// A refine polygon is a plain record that does not free its outline, and copies of it share that.
 void Varnel::disposeRefinePolygons() {
     if (!view_) {
@@ -229,7 +237,7 @@ void Varnel::removeAll() {
     dispose(lineBoundaries_);
     unlistAllBoundaries();
     dispose(loadDistributionAreas_);
-    dispose(designParameters_);
+    disposeDesignData();
     disposeRefinePolygons();
     dispose(attributeAreas_);
     dispose(resultSections_);
@@ -248,7 +256,7 @@ void Varnel::removeResults() {
 }
 
 void Varnel::removeSettings() {
-    dispose(designParameters_);
+    disposeDesignData();
 }
 
 void Varnel::removePointBoundaries() {

@@ -9,6 +9,7 @@
 
 #include "varnel/contracts/Export.h"
 #include "varnel/contracts/KzVector3D.h"
+#include "varnel/model/DesignDataIndex.h"
 #include "varnel/model/NumberedList.h"
 #include "varnel/model/PointList.h"
 #include "varnel/model/PointerList.h"
@@ -405,6 +406,7 @@ class VARNEL_EXPORT Varnel {
     void takeOutLoads(List &list, const SysBase::Loadcase *loadcase);
     template <class List>
     void dispose(List &list);
+    void disposeDesignData();
     void disposeRefinePolygons();
     bool hasOutline(const VarnelArea *outline) const;
     VarnelDesignData *adopt(std::unique_ptr<VarnelDesignData> data);
@@ -446,7 +448,8 @@ class VARNEL_EXPORT Varnel {
     VarnelManager *manager_;
     std::vector<SDBSection *> generatedSections_;
     std::vector<std::list<VarnelLineBoundaryData *>::iterator>
-        emptyEdges_;  // null entries of lineBoundaryDatas_
+        emptyEdges_;                           // null entries of lineBoundaryDatas_
+    varnel::DesignDataIndex designDataIndex_;  // of designParameters_
     bool view_ = false;
     std::unique_ptr<Varnel> former_;  // what this model owned before it became a view
 };

@@ -156,6 +156,7 @@ VarnelResultSection *Varnel::giveResultSection(const KzVector3D &p1, const KzVec
 
 VarnelDesignData *Varnel::adopt(std::unique_ptr<VarnelDesignData> data) {
     designParameters_.append(data.get());
+    designDataIndex_.append(data.get());
     return data.release();
 }
 
@@ -164,18 +165,14 @@ VarnelDesignData *Varnel::giveDesignData() {
 }
 
 VarnelDesignData *Varnel::giveDesignData(const VarnelDesignData &pattern) {
-    for (VarnelDesignData *data : designParameters_.list())
-        if (data && *data == pattern) return data;
+    if (VarnelDesignData *data = designDataIndex_.find(designParameters_.list(), pattern)) return data;
     return adopt(std::make_unique<VarnelDesignData>(pattern));
 }
 
 VarnelDesignData *Varnel::giveDesignData(double theta, double coverXu, double coverYu, double coverXl,
                                          double coverYl) {
-    for (VarnelDesignData *data : designParameters_.list()) {
-        if (data && data->getTheta() == theta && data->getCoverXu() == coverXu &&
-            data->getCoverYu() == coverYu && data->getCoverXl() == coverXl && data->getCoverYl() == coverYl)
-            return data;
-    }
+    const varnel::DesignDataIndex::FiveValues values{theta, coverXu, coverYu, coverXl, coverYl};
+    if (VarnelDesignData *data = designDataIndex_.find(designParameters_.list(), values)) return data;
     return adopt(std::make_unique<VarnelDesignData>(theta, coverXu, coverYu, coverXl, coverYl));
 }
 

@@ -78,6 +78,7 @@ VarnelLineBoundaryData *Varnel::findLineBoundaryToLine(const VarnelLine *line) c
 
 void Varnel::setupBoundaryReferences() {
     varnel::BoundaryLines lines;
+    lines.expect(lineBoundaryDatas_.size());
     eachBoundaryLine(*this, [&lines](const VarnelLine *line, VarnelLineBoundaryData *boundary) {
         lines.append(line, boundary);
         return false;
