@@ -90,6 +90,7 @@
 #include "varnel/contracts/XmlName.h"
 #include "varnel/contracts/XmlParts.h"
 #include "varnel/contracts/XmlReader.h"
+#include "varnel/contracts/XmlScan.h"
 #include "varnel/contracts/XmlStore.h"
 #include "varnel/contracts/XmlWriter.h"
 
@@ -117,6 +118,7 @@
 #include "varnel/geometry/VarnelStraight.h"
 
 #include "varnel/members/BoundaryListing.h"
+#include "varnel/members/DesignDataLink.h"
 #include "varnel/members/SharedLists.h"
 #include "varnel/members/VarnelAsFunctional.h"
 #include "varnel/members/VarnelAsPlateFunctional.h"
@@ -177,6 +179,7 @@
 #include "varnel/results/VarnelResultSectionLocation.h"
 
 #include "varnel/model/BoundaryLines.h"
+#include "varnel/model/DesignDataIndex.h"
 #include "varnel/model/FreeNames.h"
 #include "varnel/model/NumberedList.h"
 #include "varnel/model/PointList.h"
@@ -203,6 +206,7 @@
 
 #include "varnel/exchange/ElementReading.h"
 #include "varnel/exchange/FileSystem.h"
+#include "varnel/exchange/StateObjects.h"
 #include "varnel/exchange/StockMaterials.h"
 #include "varnel/exchange/UnchangedMemory.h"
 #include "varnel/exchange/VarnelExchange.h"
