@@ -54,7 +54,8 @@ TEST(PointerList, ComparesAddressesOfObjectParts) {
     VarnelPoint point{KzVector3D()};
     PointerList<VarnelPoint> list;
     list.append(&point);
-    EXPECT_TRUE(list.contains(static_cast<const VarnelObject *>(&point)));
+    EXPECT_TRUE(list.containsAddress(static_cast<const VarnelObject *>(&point)));
+    EXPECT_TRUE(list.contains(&point));
 }
 
 TEST(PointerList, CopiesTheEntriesAndNotTheTable) {

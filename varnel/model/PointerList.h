@@ -47,8 +47,9 @@ class PointerList {
         list_.push_back(object);
         if (!places_.empty()) places_.emplace(addressOf(object), std::prev(list_.end()));
     }
+    bool contains(const T *object) const { return containsAddress(addressOf(object)); }
     /// Whether an entry has that address (see addressOf).
-    bool contains(const void *address) const {
+    bool containsAddress(const void *address) const {
         if (tabulate()) return places_.count(address) != 0;
         return std::any_of(list_.begin(), list_.end(),
                            [address](const T *entry) { return addressOf(entry) == address; });

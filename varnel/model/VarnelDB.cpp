@@ -2,8 +2,15 @@
 
 #include "varnel/process/VarnelDatabaseFactory.h"
 
+namespace {
+
+/// Final, since the base has no virtual destructor.
+class Factory final : public VarnelDatabaseFactory {};
+
+}  // namespace
+
 VarnelDB::VarnelDB(VarnelManager *manager) : Varnel(manager) {
-    setDBaseFactory(std::make_shared<VarnelDatabaseFactory>());
+    setDBaseFactory(std::make_shared<Factory>());
 }
 
 VarnelDB::~VarnelDB() {

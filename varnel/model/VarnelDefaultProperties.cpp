@@ -44,6 +44,9 @@ class VarnelDefaultProperties::CImpl : public KzMaterialUser,
 
 namespace {
 
+/// Final, since the base has no virtual destructor.
+class SupportRecord final : public VarnelPointBoundaryData {};
+
 /// Whether a list of a manager holds this very thing.
 template <class List, class T>
 bool holds(const List &list, const T *thing) {
@@ -94,7 +97,7 @@ VarnelDefaultProperties::VarnelDefaultProperties()
       pointLoad_(std::make_shared<VarnelPointLoad>()),
       areaLoad_(std::make_shared<VarnelAreaLoad>()),
       beamProp_(std::make_shared<VarnelBeamProperties>()),
-      pbData_(std::make_shared<VarnelPointBoundaryData>()),
+      pbData_(std::make_shared<SupportRecord>()),
       hole_(std::make_shared<VarnelHole>()),
       lda_(std::make_shared<VarnelLoadDistributionArea>()) {}
 

@@ -142,12 +142,12 @@ bool Varnel::hasObjectGroup(VarnelObjectGroup *group) const {
 }
 
 bool Varnel::contains(const VarnelPlate *plate) const {
-    return plates_.contains(varnel::addressOf(plate));
+    return plates_.contains(plate);
 }
 
 /// Holes, boundaries and loads are meant not to be looked for.
 bool Varnel::contains(const VarnelObject *object) const {
-    return beams_.contains(object) || plates_.contains(object);
+    return beams_.containsAddress(object) || plates_.containsAddress(object);
 }
 
 bool Varnel::check(const KzReinfStockMesh *mesh) {
