@@ -9,7 +9,8 @@
 class VARNEL_EXPORT VarnelHole : public VarnelPolyObject {
   public:
     VarnelHole();
-    /// Name, load distribution and an outline of its own; all else is as in a new hole.
+    /// Name, load distribution and an outline of its own, with the number -1. Unlike a new hole the copy is
+    /// changed: taking over the outline, or that there is none, marks it.
     VarnelHole(const VarnelHole &other);
     /// Name and load distribution; the outline only if this hole has none.
     VarnelHole &operator=(const VarnelHole &other);

@@ -1,7 +1,5 @@
 #include "varnel/members/VarnelPlate.h"
 
-#include <cstdio>
-
 #include "varnel/contracts/KzConcrete.h"
 #include "varnel/contracts/Lists.h"
 #include "varnel/geometry/VarnelObjectVisitor.h"
@@ -23,7 +21,6 @@ VarnelPlate::VarnelPlate(const VarnelPlate &other)
 }
 
 const VarnelPlate &VarnelPlate::operator=(const VarnelPlate &other) {
-    if (this == &other) return other;
     *data_ = *other.data_;
     setPlateType(other.plateType_);
     // Counts entries, not edges: supports behind a gap in the known edges are meant not to be copied.
@@ -56,6 +53,7 @@ int VarnelPlate::getVisited(VarnelObjectVisitor *visitor) {
 }
 
 bool VarnelPlate::getChanged() {
+    // Counts entries, not edges: supports behind a gap in the known edges are meant not to be asked.
     for (std::size_t edge = 0; edge < edges_.size(); ++edge) {
         const VarnelLineBoundaryData *boundary = getBoundary(edge);
         if (boundary && boundary->getChanged()) return true;
@@ -68,16 +66,6 @@ void VarnelPlate::setChanged(bool changed) {
     for (std::size_t edge = 0; edge < edges_.size(); ++edge)
         if (VarnelLineBoundaryData *boundary = getBoundary(edge)) boundary->setChanged(changed);
     changed_ = changed;
-}
-
-void VarnelPlate::setName(const std::string &name) {
-    const std::string newName = name;  // the argument may be the very name that is about to change
-    if (parent_) parent_->updatePlateName(newName, data_->getName(), this);
-    data_->setName(newName);
-}
-
-const std::string &VarnelPlate::getName() const {
-    return data_->getName();
 }
 
 VarnelPlatePosition *VarnelPlate::giveResultPosition(double x, double y, double z) {
@@ -94,6 +82,16 @@ void VarnelPlate::removeResults() {
 
 void VarnelPlate::setDefaultName() {
     setName("Platte " + std::to_string(getNumber()));
+}
+
+void VarnelPlate::setName(const std::string &name) {
+    const std::string newName = name;  // the argument may be the very name that is about to change
+    if (parent_) parent_->updatePlateName(newName, data_->getName(), this);
+    data_->setName(newName);
+}
+
+const std::string &VarnelPlate::getName() const {
+    return data_->getName();
 }
 
 void VarnelPlate::add(VarnelPlatePosition *position) {
@@ -134,9 +132,8 @@ VarnelAreaLoad *VarnelPlate::giveAreaLoad(SysBase::LoadcaseData::Type type, SysB
 
 std::string VarnelPlate::getGroupName() const {
     if (!getName().empty()) return getName();
-    char name[16];
-    std::snprintf(name, sizeof name, "PL%03d", getNumber());
-    return name;
+    const std::string number = std::to_string(getNumber());
+    return "PL" + std::string(number.size() < 3 ? 3 - number.size() : 0, '0') + number;
 }
 
 double VarnelPlate::getVolumen() const {

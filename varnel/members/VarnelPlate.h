@@ -134,7 +134,7 @@ class VARNEL_EXPORT VarnelPlate : public VarnelPolyObject, public VarnelStateObj
     /// The first position at exactly these coordinates, or null.
     VarnelPlatePosition *findPlatePosition(double x, double y, double z) const;
 
-    /// The name; without one "PL" and the number with at least three digits.
+    /// The name; without one "PL" and the number, filled up with zeros to three characters.
     std::string getGroupName() const;
     /// Area of the outline times thickness (m3); 0 without an outline.
     double getVolumen() const;
@@ -146,9 +146,6 @@ class VARNEL_EXPORT VarnelPlate : public VarnelPolyObject, public VarnelStateObj
     using VarnelPolyObject::getChanged;
     /// Outline, supports of the first edges (as many as edges are known) and the plate.
     void setChanged(bool changed) override;
-    /// Tells the model, which keeps an index of names. Marks no change.
-    void setName(const std::string &name) override;
-    const std::string &getName() const override;
     /// Whether the plate, its outline or one of the supports was changed; the const form asks the outline
     /// only. Of n known edges only the supports of edges 0 to n - 1 are asked.
     virtual bool getChanged();
@@ -158,6 +155,9 @@ class VARNEL_EXPORT VarnelPlate : public VarnelPolyObject, public VarnelStateObj
     virtual void removeResults();
     /// "Platte " and the number.
     virtual void setDefaultName();
+    /// Tells the model, which keeps an index of names. Marks no change.
+    void setName(const std::string &name) override;
+    const std::string &getName() const override;
 
   private:
     bool hasLine(std::size_t edge) const;

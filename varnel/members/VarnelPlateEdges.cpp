@@ -1,5 +1,8 @@
 // What a plate knows of the edges of its outline.
 
+#include <utility>
+#include <vector>
+
 #include "varnel/members/VarnelLineBoundaryData.h"
 #include "varnel/members/VarnelPlate.h"
 #include "varnel/members/VarnelPlateEdgeData.h"
