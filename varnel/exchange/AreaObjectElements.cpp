@@ -17,6 +17,7 @@
 #include "varnel/model/Varnel.h"
 
 void VarnelExchangeXml::updateHoles(Varnel *model) {
+    if (!model) return;
     open("HOLES");
     flush();
     for (VarnelHole *hole : model->getHoles()) {
@@ -29,12 +30,14 @@ void VarnelExchangeXml::updateHoles(Varnel *model) {
 }
 
 void VarnelExchangeXml::updateOneHole(Varnel *, VarnelHole *hole) {
+    if (!hole) return;
     setAttribute("NAME", hole->getName());
     setAttribute("DISTLOAD", hole->getLoadDistribution());
     updateArea(hole->getGeo());
 }
 
 VarnelHole *VarnelExchangeXml::createOneHole(KzXmlData *element, Varnel *model) {
+    if (!element || !model) return nullptr;
     auto hole = std::make_unique<VarnelHole>();
     VarnelHole *made = hole.get();
     model->add(hole.release());
@@ -44,12 +47,14 @@ VarnelHole *VarnelExchangeXml::createOneHole(KzXmlData *element, Varnel *model) 
 }
 
 void VarnelExchangeXml::readOneHole(KzXmlData *element, VarnelHole *hole) {
+    if (!hole) return;
     varnel::ifInt(element, "NUMBER", [hole](int value) { hole->setNumber(value); });
     varnel::ifText(element, "NAME", [hole](const std::string &value) { hole->setName(value); });
     varnel::ifBool(element, "DISTLOAD", [hole](bool value) { hole->setLoadDistribution(value); });
 }
 
 void VarnelExchangeXml::updateAttributeAreas(Varnel *model) {
+    if (!model) return;
     open("ATTRIBUTES");
     flush();
     for (VarnelAttributeArea *area : model->getAttributeAreas()) {
@@ -66,7 +71,7 @@ void VarnelExchangeXml::updateAttributeAreas(Varnel *model) {
 }
 
 void VarnelExchangeXml::createAttributeAreas(KzXmlData *element, Varnel *model) {
-    varnel::eachChild(element ? element->findTree("ATTRIBUTES", false) : nullptr,
+    varnel::eachChild(element && model ? element->findTree("ATTRIBUTES", false) : nullptr,
                       [this, model](KzXmlData *child) { createAttributeArea(child, model); });
 }
 
@@ -109,6 +114,7 @@ void VarnelExchangeXml::createAttributeArea(KzXmlData *element, Varnel *model) {
 }
 
 void VarnelExchangeXml::updateLoadDistributionAreas(Varnel *model) {
+    if (!model) return;
     open("LDAREAS");
     flush();
     for (VarnelLoadDistributionArea *area : model->getLoadDistributionAreas()) {
@@ -121,6 +127,7 @@ void VarnelExchangeXml::updateLoadDistributionAreas(Varnel *model) {
 }
 
 void VarnelExchangeXml::updateOneLoadDistributionArea(VarnelLoadDistributionArea *area) {
+    if (!area) return;
     setAttribute("NAME", area->getName());
     updateArea(area->getGeo());
 }
@@ -132,6 +139,7 @@ void VarnelExchangeXml::createLoadDistributionAreas(KzXmlData *element, Varnel *
 
 VarnelLoadDistributionArea *VarnelExchangeXml::createOneLoadDistributionArea(KzXmlData *element,
                                                                              Varnel *model) {
+    if (!element || !model) return nullptr;
     auto area = std::make_unique<VarnelLoadDistributionArea>();
     VarnelLoadDistributionArea *made = area.get();
     model->add(area.release());
@@ -141,11 +149,12 @@ VarnelLoadDistributionArea *VarnelExchangeXml::createOneLoadDistributionArea(KzX
 }
 
 void VarnelExchangeXml::readOneLoadDistributionArea(KzXmlData *element, VarnelLoadDistributionArea *area) {
+    if (!area) return;
     varnel::ifText(element, "NAME", [area](const std::string &value) { area->setName(value); });
 }
 
 void VarnelExchangeXml::createRefinePolygons(KzXmlData *element, Varnel *model) {
-    varnel::eachChild(element ? element->findTree("REFINEPOLYS", false) : nullptr,
+    varnel::eachChild(element && model ? element->findTree("REFINEPOLYS", false) : nullptr,
                       [this, model](KzXmlData *child) {
                           auto polygon = std::make_unique<VarnelRefinePolygon>();
                           VarnelRefinePolygon *made = polygon.get();
@@ -167,7 +176,7 @@ void VarnelExchangeXml::updateGaps(Varnel *) {
 
 /// One polygon serves all gaps of the list, and each gap adds its lines to it.
 void VarnelExchangeXml::createGaps(KzXmlData *element, Varnel *model) {
-    KzXmlData *list = element ? element->findTree("GAPS", false) : nullptr;
+    KzXmlData *list = element && model ? element->findTree("GAPS", false) : nullptr;
     if (!list) return;
     const varnel::Held<VarnelAreaPolygon> polygon(model->giveAreaPolygon());
     varnel::eachChild(list, [this, model, &polygon](KzXmlData *child) {

@@ -76,6 +76,7 @@ void VarnelExchangeXml::updateDesignData(const VarnelDesignData *data) {
 }
 
 void VarnelExchangeXml::readDesignData(KzXmlData *element, VarnelDesignData *data) {
+    if (!element || !data) return;
     // In old documents the steel stands beside "DESIGN"; the one inside wins.
     if (const KzXmlData *steel = element->findChild("STEEL"))
         data->setReinforcement(findReinforcement(steel->getData()));

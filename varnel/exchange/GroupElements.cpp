@@ -1,5 +1,7 @@
 // "GROUPS" with "GROUP" and "OBJECT"; "RESULTSECTIONS" with "RESULTSECTION".
 
+#include <memory>
+
 #include "varnel/contracts/KzMatrix44.h"
 #include "varnel/exchange/ElementReading.h"
 #include "varnel/exchange/VarnelExchangeXml.h"
@@ -77,6 +79,7 @@ void readMember(const KzXmlData *element, VarnelObjectGroup *group, Varnel &mode
 }  // namespace
 
 void VarnelExchangeXml::updateObjectGroups(Varnel *model) {
+    if (!model) return;
     open("GROUPS");
     flush();
     for (VarnelObjectGroup *group : model->getObjectGroups()) {
@@ -94,6 +97,7 @@ void VarnelExchangeXml::updateObjectGroups(Varnel *model) {
 }
 
 void VarnelExchangeXml::updateOneObjectGroup(Varnel *, VarnelObjectGroup *group) {
+    if (!group) return;
     VarnelObjectVisitorUpdateXml visitor(this);
     int count = 1;
     for (VarnelObject *object : group->getObjects()) {
@@ -106,29 +110,26 @@ void VarnelExchangeXml::updateOneObjectGroup(Varnel *, VarnelObjectGroup *group)
 }
 
 void VarnelExchangeXml::createObjectGroups(KzXmlData *element, Varnel *model) {
-    varnel::eachChild(element ? element->findTree("GROUPS", false) : nullptr, "GROUP",
+    varnel::eachChild(element && model ? element->findTree("GROUPS", false) : nullptr, "GROUP",
                       [this, model](KzXmlData *child) { createOneObjectGroup(child, model); });
 }
 
 VarnelObjectGroup *VarnelExchangeXml::createOneObjectGroup(KzXmlData *element, Varnel *model) {
-    const KzXmlAttributeData *name = element->findAttribute("NAME");
+    const KzXmlAttributeData *name = element && model ? element->findAttribute("NAME") : nullptr;
     if (!name) return nullptr;
     VarnelObjectGroup *group = model->giveObjectGroup(name->getData());
     varnel::ifBool(element, "USER", [group](bool value) { group->setUserDefined(value); });
     varnel::ifBool(element, "CALC", [group](bool value) { group->setCalculate(value); });
     model->add(group);
-    varnel::eachChild(element, [this, element, group, model](KzXmlData *child) {
-        if (child->getName() == "OBJECT") {
-            readMember(child, group, *model);
-            return;
-        }
-        KzVector3D offset;
-        if (getVectorToKey(element->findChild("BASE"), "OFFSET", offset)) group->setOffset(offset);
-    });
+    varnel::eachChild(element, "OBJECT",
+                      [group, model](const KzXmlData *child) { readMember(child, group, *model); });
+    KzVector3D offset;
+    if (getVectorToKey(element->findChild("BASE"), "OFFSET", offset)) group->setOffset(offset);
     return group;
 }
 
 void VarnelExchangeXml::updateResultSections(Varnel *model) {
+    if (!model) return;
     open("RESULTSECTIONS");
     flush();
     for (VarnelResultSection *section : model->getResultSections()) {
@@ -143,16 +144,16 @@ void VarnelExchangeXml::updateResultSections(Varnel *model) {
 }
 
 void VarnelExchangeXml::createResultSections(KzXmlData *element, Varnel *model) {
-    varnel::eachChild(element ? element->findTree("RESULTSECTIONS", false) : nullptr, "RESULTSECTION",
-                      [this, model](KzXmlData *child) {
+    varnel::eachChild(element && model ? element->findTree("RESULTSECTIONS", false) : nullptr,
+                      "RESULTSECTION", [this, model](KzXmlData *child) {
                           KzVector3D start, end;
                           getVectorToKey(child, "START", start);
                           getVectorToKey(child, "END", end);
                           // Numbered by its place, whatever number the file gives.
-                          VarnelResultSection *made = model->giveResultSection(start, end);
+                          std::unique_ptr<VarnelResultSection> made(model->giveResultSection(start, end));
                           if (!made) return;
-                          model->add(made);
                           varnel::ifText(child, "NAME",
-                                         [made](const std::string &value) { made->setName(value); });
+                                         [&made](const std::string &value) { made->setName(value); });
+                          model->add(made.release());
                       });
 }

@@ -24,6 +24,7 @@ void VarnelExchangeXml::updateLoadcases(VarnelManager *manager) {
 }
 
 void VarnelExchangeXml::updateOneLoadcase(VarnelManager *, SysBase::Loadcase *loadcase) {
+    if (!loadcase) return;
     setAttribute("NAME", loadcase->getName());
     setAttribute("TYPE", loadcase->getType());
     setAttribute("OWN", loadcase->isOwnWeight());
@@ -38,6 +39,7 @@ void VarnelExchangeXml::createLoadcases(KzXmlData *element, VarnelManager *manag
 }
 
 SysBase::Loadcase *VarnelExchangeXml::createOneLoadcase(KzXmlData *element, VarnelManager *manager) {
+    if (!element || !manager) return nullptr;
     SysBase::Loadcase *loadcase = manager->giveLoadcaseToNumber(varnel::readInt(element, "NUMBER", 0), true);
     // Without a name the other values do not count: the case keeps what it had.
     const KzXmlAttributeData *name = element->findAttribute("NAME");

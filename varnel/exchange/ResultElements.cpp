@@ -41,15 +41,17 @@ void updateSupport(VarnelExchangeXml &exchange, const VarnelPointResultData &res
 void VarnelExchangeXml::updateResults(VarnelManager *manager) {
     const RootCursor guard(tree());
     setManager(manager);
-    if (manager && manager->getCurrentSubSystem()) updateResultsToSubSystem(manager->getCurrentSubSystem());
+    if (manager) updateResultsToSubSystem(manager->getCurrentSubSystem());
 }
 
 void VarnelExchangeXml::updateResultsToSubSystem(VarnelSubSystem *subSystem) {
+    if (!subSystem) return;
     openToAttribute("SUBSYSTEM", "NAME", subSystem->getName());
-    Varnel *model = subSystem->getDatabase();
-    updateBeamResults(model);
-    updatePointBoundaryResults(model);
-    updateLineBoundaryResults(model);
+    if (Varnel *model = subSystem->getDatabase()) {
+        updateBeamResults(model);
+        updatePointBoundaryResults(model);
+        updateLineBoundaryResults(model);
+    }
     if (!subSystem->getChildren().empty()) updateSubSystemResults(subSystem->getChildren());
     close();
 }
@@ -62,6 +64,7 @@ void VarnelExchangeXml::updateSubSystemResults(const std::list<VarnelSubSystem *
 }
 
 void VarnelExchangeXml::updateBeamResults(Varnel *model) {
+    if (!model) return;
     const auto &loadcases = loadcasesOf(getManager());
     open("BEAMS");
     for (VarnelBeam *beam : model->getBeams()) {
@@ -84,6 +87,7 @@ void VarnelExchangeXml::updateBeamResults(Varnel *model) {
 }
 
 void VarnelExchangeXml::updateBeamDisplacements(VarnelBeam *beam, SysBase::Loadcase *loadcase) {
+    if (!beam || !loadcase) return;
     open("DISPS");
     flush();
     for (const SysBase::BeamResultState *state : beam->getResultStates()) {
@@ -102,6 +106,7 @@ void VarnelExchangeXml::updateBeamDisplacements(VarnelBeam *beam, SysBase::Loadc
 }
 
 void VarnelExchangeXml::updateBeamStresses(VarnelBeam *beam, SysBase::Loadcase *loadcase) {
+    if (!beam || !loadcase) return;
     open("STRESS");
     flush();
     for (const SysBase::BeamResultState *state : beam->getResultStates()) {
@@ -117,6 +122,7 @@ void VarnelExchangeXml::updateBeamStresses(VarnelBeam *beam, SysBase::Loadcase *
 }
 
 void VarnelExchangeXml::updatePointBoundaryResults(Varnel *model) {
+    if (!model) return;
     const auto &loadcases = loadcasesOf(getManager());
     VarnelDesigner *designer = getManager() ? getManager()->getDesigner() : nullptr;
     open("PBOUNDS");
@@ -148,6 +154,7 @@ void VarnelExchangeXml::updatePointBoundaryResults(Varnel *model) {
 }
 
 void VarnelExchangeXml::updateLineBoundaryResults(Varnel *model) {
+    if (!model) return;
     open("LBOUNDS");
     for (VarnelLineBoundary *boundary : model->getLineBoundaries()) {
         if (!boundary) continue;

@@ -8,6 +8,7 @@
 #include "varnel/contracts/KzXmlDataUtil.h"
 #include "varnel/contracts/Tools/Error.h"
 #include "varnel/exchange/ElementReading.h"
+#include "varnel/exchange/StateObjects.h"
 #include "varnel/exchange/VarnelExchangeXml.h"
 #include "varnel/loads/VarnelLineLoad.h"
 #include "varnel/loads/VarnelPointLoad.h"
@@ -27,6 +28,9 @@
 
 namespace {
 
+using varnel::StateKind;
+using varnel::StateObjects;
+
 // One key attribute for each kind of object, for both ways.
 constexpr const char *beamKey = "BEAM";
 constexpr const char *plateKey = "PLATE";
@@ -34,39 +38,64 @@ constexpr const char *pointBoundaryKey = "POINTBOUNDARY";
 constexpr const char *pointLoadKey = "POINTLOAD";
 constexpr const char *lineLoadKey = "LINELOAD";
 
-/// Writes each state under the number of its object. A state whose object is null has no number to be found
-/// by and is skipped.
+/// Writes each state under the number of its object. A state without an object has no number to be found by
+/// and is skipped; so is one whose object has left the project, which may be dead and is not touched.
 class VarnelObjectStateVisitorUpdateXml : public VarnelObjectStateVisitor {
   public:
-    explicit VarnelObjectStateVisitorUpdateXml(VarnelExchangeXml *exchange) : exchange_(exchange) {}
+    VarnelObjectStateVisitorUpdateXml(VarnelExchangeXml *exchange, StateObjects &living)
+        : exchange_(exchange), living_(living) {}
 
-    void visit(VarnelLineLoadState *state) override { update(lineLoadKey, state, state->getLineLoad()); }
-    void visit(VarnelPointLoadState *state) override { update(pointLoadKey, state, state->getPointLoad()); }
+    void visit(VarnelLineLoadState *state) override {
+        update(lineLoadKey, StateKind::LineLoad, state, [state] { return state->getLineLoad(); });
+    }
+    void visit(VarnelPointLoadState *state) override {
+        update(pointLoadKey, StateKind::PointLoad, state, [state] { return state->getPointLoad(); });
+    }
     void visit(VarnelPointBoundaryState *state) override {
-        update(pointBoundaryKey, state, state->getPointBoundary());
+        update(pointBoundaryKey, StateKind::PointBoundary, state,
+               [state] { return state->getPointBoundary(); });
     }
     void visit(VarnelBeamState *state) override {
-        update(beamKey, state, state->getBeam(), [this, state] { exchange_->updateOneBeamState(state); });
+        update(
+            beamKey, StateKind::Beam, state, [state] { return state->getBeam(); },
+            [this, state] { exchange_->updateOneBeamState(state); });
     }
     void visit(VarnelPlateState *state) override {
-        update(plateKey, state, state->getPlate(), [this, state] { exchange_->updateOnePlateState(state); });
+        update(
+            plateKey, StateKind::Plate, state, [state] { return state->getPlate(); },
+            [this, state] { exchange_->updateOnePlateState(state); });
     }
 
   private:
     template <class Object, class Extra>
-    void update(const char *key, VarnelObjectState *state, const Object *object, Extra extra) {
-        if (!object) return;
-        exchange_->openToAttribute("OBJECTSTATE", key, object->getNumber());
+    void update(const char *key, StateKind kind, VarnelObjectState *state, Object object, Extra extra) {
+        if (!living_.contains(kind, state->getStateObject())) return;
+        exchange_->openToAttribute("OBJECTSTATE", key, object()->getNumber());
         exchange_->updateOneObjectState(state);
         extra();
         exchange_->close();
     }
     template <class Object>
-    void update(const char *key, VarnelObjectState *state, const Object *object) {
-        update(key, state, object, [] {});
+    void update(const char *key, StateKind kind, VarnelObjectState *state, Object object) {
+        update(key, kind, state, object, [] {});
     }
 
     VarnelExchangeXml *exchange_;
+    StateObjects &living_;
+};
+
+/// Gives a field another value until the scope is left, also by an exception.
+template <class Value>
+class Temporarily {
+  public:
+    Temporarily(Value &field, Value value) : field_(field), former_(field) { field_ = value; }
+    Temporarily(const Temporarily &) = delete;
+    Temporarily &operator=(const Temporarily &) = delete;
+    ~Temporarily() { field_ = former_; }
+
+  private:
+    Value &field_;
+    Value former_;
 };
 
 /// Looks in the subsystem's model, then in those of its children in order, and no deeper.
@@ -98,6 +127,9 @@ void readPlainState(VarnelConstructionStage &stage, Object *object, const KzXmlD
 }  // namespace
 
 void VarnelExchangeXml::updateConstructionStages(VarnelSubSystem *subSystem) {
+    if (!subSystem) return;
+    StateObjects living(getManager(), subSystem);
+    const Temporarily<StateObjects *> scope(stateObjects_, &living);
     open("CONSTRUCTIONSTATES");
     flush();
     for (SysBase::ConstructionStage *entry : subSystem->getConstructionStages()) {
@@ -111,9 +143,11 @@ void VarnelExchangeXml::updateConstructionStages(VarnelSubSystem *subSystem) {
 }
 
 void VarnelExchangeXml::updateOneConstructionStage(VarnelConstructionStage *stage) {
+    if (!stage) return;
     setAttribute("NAME", stage->getName());
     open("OBJECTSTATES");
-    VarnelObjectStateVisitorUpdateXml visitor(this);
+    StateObjects own(getManager(), nullptr);  // for a stage that is written by itself
+    VarnelObjectStateVisitorUpdateXml visitor(this, stateObjects_ ? *stateObjects_ : own);
     for (VarnelObjectState *state : stage->getObjectStates())
         if (state) state->getVisited(&visitor);
     close();
@@ -124,29 +158,19 @@ void VarnelExchangeXml::updateOneObjectState(VarnelObjectState *state) {
 }
 
 void VarnelExchangeXml::updateOneBeamState(VarnelBeamState *state) {
-    if (const KzMaterial *material = state->getMaterial()) setAttribute("MATERIAL", material->getName());
+    if (const KzMaterial *material = state ? state->getMaterial() : nullptr)
+        setAttribute("MATERIAL", material->getName());
 }
 
 void VarnelExchangeXml::updateOnePlateState(VarnelPlateState *state) {
-    if (const KzMaterial *material = state->getMaterial()) setAttribute("MATERIAL", material->getName());
+    if (const KzMaterial *material = state ? state->getMaterial() : nullptr)
+        setAttribute("MATERIAL", material->getName());
 }
-
-/// Remembers the subsystem whose stages are being read, until the scope is left.
-class VarnelExchangeXml::StageTarget {
-  public:
-    StageTarget(VarnelSubSystem *&slot, VarnelSubSystem *subSystem) : slot_(slot) { slot_ = subSystem; }
-    StageTarget(const StageTarget &) = delete;
-    StageTarget &operator=(const StageTarget &) = delete;
-    ~StageTarget() { slot_ = nullptr; }
-
-  private:
-    VarnelSubSystem *&slot_;
-};
 
 void VarnelExchangeXml::createConstructionStages(KzXmlData *element, VarnelSubSystem *subSystem) {
     KzXmlData *list = element ? element->findTree("CONSTRUCTIONSTATES", false) : nullptr;
     if (!list || !subSystem) return;
-    const StageTarget target(stageTarget_, subSystem);
+    const Temporarily<VarnelSubSystem *> scope(stageTarget_, subSystem);
     varnel::eachChild(list, [this, subSystem](KzXmlData *child) {
         const int number = varnel::readInt(child, "NUMBER", 0);
         auto *stage =
@@ -209,12 +233,12 @@ State *VarnelExchangeXml::readMemberState(State *state, KzXmlData *element) {
 
 VarnelBeamState *VarnelExchangeXml::createOneBeamState(VarnelConstructionStage *stage, VarnelBeam *beam,
                                                        KzXmlData *element) {
-    return readMemberState(stage->giveState(beam), element);
+    return stage ? readMemberState(stage->giveState(beam), element) : nullptr;
 }
 
 VarnelPlateState *VarnelExchangeXml::createOnePlateState(VarnelConstructionStage *stage, VarnelPlate *plate,
                                                          KzXmlData *element, Varnel *) {
-    return readMemberState(stage->giveState(plate), element);
+    return stage ? readMemberState(stage->giveState(plate), element) : nullptr;
 }
 
 VarnelConstructionStage *VarnelExchangeXml::createOneConstructionStage(KzXmlData *element,

@@ -59,8 +59,15 @@ void VarnelExchangeXml::updateSystem(VarnelManager *manager) {
 void VarnelExchangeXml::updateThumbnail(VarnelSubSystem *) {}
 
 void VarnelExchangeXml::updateOneSubSystem(VarnelSubSystem *subSystem) {
-    Varnel *model = subSystem->getDatabase();
+    if (!subSystem) return;
     updateVectorToKey("OFFSET", subSystem->getOffset());
+    if (Varnel *model = subSystem->getDatabase()) updateModel(model);
+    // A subsystem that has lost its last child keeps the old element: foreign readers may still refer to it.
+    if (!subSystem->getChildren().empty()) updateSubSystems(subSystem->getChildren());
+    setAttribute("STANDARD", KzStandard::get()->getMode());
+}
+
+void VarnelExchangeXml::updateModel(Varnel *model) {
     getExchangeBeam()->update(model);
     updatePlates(model);
     updateHoles(model);
@@ -76,9 +83,6 @@ void VarnelExchangeXml::updateOneSubSystem(VarnelSubSystem *subSystem) {
     if (writeLines_) updateLines(model);
     updateLoadDistributionAreas(model);
     updateObjectGroups(model);
-    // A subsystem that has lost its last child keeps the old element: foreign readers may still refer to it.
-    if (!subSystem->getChildren().empty()) updateSubSystems(subSystem->getChildren());
-    setAttribute("STANDARD", KzStandard::get()->getMode());
 }
 
 void VarnelExchangeXml::updateSubSystems(const std::list<VarnelSubSystem *> &children) {
@@ -151,10 +155,12 @@ void VarnelExchangeXml::createOneSubSystem(KzXmlData *element, VarnelSubSystem *
 }
 
 void VarnelExchangeXml::createSubSystems(KzXmlData *element, VarnelSubSystem *parent) {
-    varnel::eachChild(element, [this, parent](KzXmlData *child) {
+    VarnelManager *manager = getManager();
+    if (!manager) return;
+    varnel::eachChild(element, [this, manager, parent](KzXmlData *child) {
         const KzXmlAttributeData *name = child->findAttribute("NAME");
         if (!name) return;
-        VarnelSubSystem *subSystem = getManager()->giveSubSystem(name->getData(), parent);
+        VarnelSubSystem *subSystem = manager->giveSubSystem(name->getData(), parent);
         if (!subSystem) return;
         if (const KzXmlData *offset = child->findChild("OFFSET")) subSystem->setOffset(getVector(offset));
         createOneSubSystem(child, subSystem);

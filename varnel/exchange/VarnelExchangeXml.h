@@ -49,6 +49,9 @@ class VarnelSubSystem;
 namespace SysBase {
 class Loadcase;
 }
+namespace varnel {
+class StateObjects;
+}
 
 /// The project document: writers named update... bring the tree up to the model, readers named create... and
 /// read... build the model from the tree. Lists are rebuilt on writing; elements that no writer knows survive
@@ -236,6 +239,7 @@ class VARNEL_EXPORT VarnelExchangeXml : public VarnelExchangeXmlBase {
     void readLoadcase(KzXmlData *element, VarnelLoad *load);
     VarnelArea *readOutline(KzXmlData *element, Varnel *model);
     void createAttributeArea(KzXmlData *element, Varnel *model);
+    void updateModel(Varnel *model);
     void updateDefaultProperties();
     void createDefaultProperties(KzXmlData *element);
     void createObjectState(KzXmlData *element, VarnelConstructionStage *stage, VarnelSubSystem *subSystem);
@@ -257,8 +261,9 @@ class VARNEL_EXPORT VarnelExchangeXml : public VarnelExchangeXmlBase {
     class UnchangedMemory;
     UnchangedMemory *unchanged_ = nullptr;
     /// The subsystem whose stages are being read, else null.
-    class StageTarget;
     VarnelSubSystem *stageTarget_ = nullptr;
+    /// The project's objects while stages are being written, else null.
+    varnel::StateObjects *stateObjects_ = nullptr;
 };
 
 #endif
