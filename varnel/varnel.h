@@ -44,6 +44,7 @@
 #include "varnel/contracts/KzXmlData.h"
 #include "varnel/contracts/KzXmlDataUtil.h"
 #include "varnel/contracts/KzXmlTree.h"
+#include "varnel/contracts/Link.h"
 #include "varnel/contracts/Lists.h"
 #include "varnel/contracts/Math/DistributedValues.h"
 #include "varnel/contracts/NamedList.h"

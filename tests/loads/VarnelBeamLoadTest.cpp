@@ -201,16 +201,15 @@ TEST(VarnelBeamLoad, NeverFreesABeamThatItWasGiven) {
     EXPECT_EQ(0.0, other.getLength());
 }
 
-TEST(VarnelBeamLoad, ForgetsADyingBeamWithoutAFlag) {
-    VarnelBeam dying, other;
+TEST(VarnelBeamLoad, ForgetsADyingBeamWithoutAChange) {
+    auto beam = std::make_unique<VarnelBeam>();
     VarnelBeamLoad load;
-    load.setBeam(&dying);
+    load.setBeam(beam.get());
     load.setChanged(false);
-    load.forgetBeam(&other);
-    EXPECT_EQ(&dying, load.getBeam());
-    load.forgetBeam(&dying);
-    EXPECT_EQ(nullptr, load.getBeam());
+    beam.reset();
+    EXPECT_EQ(load.getBeam(), nullptr);
     EXPECT_FALSE(load.getChanged());
+    EXPECT_EQ(load.getGeo(), nullptr);
 }
 
 TEST(VarnelBeamLoad, CopiedHasACloneOfTheBeam) {

@@ -91,7 +91,7 @@ class DataChecker : public VarnelDataChecker {
     Script &script_;
 };
 
-class ErrorHandler : public VarnelErrorHandler {
+class ErrorHandler final : public VarnelErrorHandler {
   public:
     explicit ErrorHandler(Script &script) : script_(script) {}
     void display(const std::list<std::string> &messages) const override;

@@ -9,17 +9,17 @@ VarnelBeamLoad::VarnelBeamLoad() = default;
 VarnelBeamLoad::VarnelBeamLoad(const VarnelBeamLoad &other)
     : VarnelLoad(other),
       data_(other.data_),
-      clonedBeam_(other.beam_ ? std::make_unique<VarnelBeam>(*other.beam_) : nullptr) {
-    beam_ = clonedBeam_.get();
+      clonedBeam_(other.getBeam() ? std::make_unique<VarnelBeam>(*other.getBeam()) : nullptr) {
+    beam_.set(clonedBeam_.get());
 }
 
 VarnelBeamLoad &VarnelBeamLoad::operator=(const VarnelBeamLoad &other) {
-    if (!other.beam_) {
-        if (beam_ == clonedBeam_.get()) clonedBeam_.reset();
-        beam_ = nullptr;
-    } else if (!beam_) {
-        clonedBeam_ = std::make_unique<VarnelBeam>(*other.beam_);
-        beam_ = clonedBeam_.get();
+    if (!other.getBeam()) {
+        if (getBeam() == clonedBeam_.get()) clonedBeam_.reset();
+        beam_.set(nullptr);
+    } else if (!getBeam()) {
+        clonedBeam_ = std::make_unique<VarnelBeam>(*other.getBeam());
+        beam_.set(clonedBeam_.get());
     }
     VarnelLoad::operator=(other);
     data_ = other.data_;
@@ -34,12 +34,12 @@ void VarnelBeamLoad::setData(const VarnelBeamLoadData &data) {
 }
 
 void VarnelBeamLoad::setBeam(VarnelBeam *beam) {
-    beam_ = beam;
+    beam_.set(beam);
     VarnelLoad::setChanged(true);
 }
 
 VarnelBeamGeo *VarnelBeamLoad::getGeo() const {
-    return beam_ ? beam_->getGeo() : nullptr;
+    return getBeam() ? getBeam()->getGeo() : nullptr;
 }
 
 void VarnelBeamLoad::setForce(const KzVector3D &force) {
@@ -57,20 +57,20 @@ int VarnelBeamLoad::getVisited(VarnelObjectVisitor *visitor) {
 }
 
 bool VarnelBeamLoad::isInPlane(const KzMatrix44 &plane) const {
-    return beam_ && beam_->isInPlane(plane);
+    return getBeam() && getBeam()->isInPlane(plane);
 }
 
 bool VarnelBeamLoad::touchesPlane(const KzMatrix44 &plane) const {
-    return beam_ && beam_->touchesPlane(plane);
+    return getBeam() && getBeam()->touchesPlane(plane);
 }
 
 bool VarnelBeamLoad::getChanged() const {
-    return VarnelLoad::getChanged() || (beam_ && beam_->getChanged());
+    return VarnelLoad::getChanged() || (getBeam() && getBeam()->getChanged());
 }
 
 void VarnelBeamLoad::setChanged(bool changed) {
     VarnelLoad::setChanged(changed);
-    if (beam_) beam_->setChanged(changed);
+    if (getBeam()) getBeam()->setChanged(changed);
 }
 
 KzVector3D VarnelBeamLoad::getCOG() {

@@ -5,6 +5,7 @@
 
 #include "varnel/contracts/Export.h"
 #include "varnel/contracts/KzVector3D.h"
+#include "varnel/contracts/Link.h"
 #include "varnel/loads/VarnelBeamLoadData.h"
 #include "varnel/loads/VarnelLoad.h"
 
@@ -28,14 +29,11 @@ class VARNEL_EXPORT VarnelBeamLoad : public VarnelLoad {
     /// Assigns the record and marks load and beam as changed.
     void setData(const VarnelBeamLoadData &data);
 
-    VarnelBeam *getBeam() const { return beam_; }
+    /// Shared; null without one, and when the beam has died.
+    VarnelBeam *getBeam() const { return beam_.get(); }
     /// Stores a beam (shared; null: none) and marks the load as changed. A clone that this load owns lives
     /// on until the load dies or makes another.
     void setBeam(VarnelBeam *beam);
-    /// Drops the reference to a beam that is about to die; any other beam stays. Marks no change.
-    void forgetBeam(const VarnelBeam *dying) {
-        if (beam_ == dying) beam_ = nullptr;
-    }
     /// The axis of the beam; null without a beam.
     VarnelBeamGeo *getGeo() const;
 
@@ -66,7 +64,7 @@ class VARNEL_EXPORT VarnelBeamLoad : public VarnelLoad {
     bool isNull() override { return data_.isNull(); }
 
   private:
-    VarnelBeam *beam_ = nullptr;
+    varnel::Link<VarnelBeam> beam_;
     VarnelBeamLoadData data_;
     std::unique_ptr<VarnelBeam> clonedBeam_;  // the one beam that this load may free
 };

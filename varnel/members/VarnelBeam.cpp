@@ -64,6 +64,7 @@ VarnelBeam::VarnelBeam(const VarnelBeam &other)
     : VarnelStateObject(),
       VarnelPosition(),
       VarnelObject(other),
+      LinkTarget(),
       geometry_(other.geometry_ ? new VarnelBeamGeo(*other.geometry_) : nullptr),
       data_(new VarnelBeamProperties(*other.data_)) {
     designResults_.reserve(other.designResults_.size());

@@ -9,6 +9,7 @@
 #include "varnel/contracts/Export.h"
 #include "varnel/contracts/KzMatrix44.h"
 #include "varnel/contracts/KzVector3D.h"
+#include "varnel/contracts/Link.h"
 #include "varnel/contracts/Shared.h"
 #include "varnel/geometry/VarnelObject.h"
 #include "varnel/geometry/VarnelPosition.h"
@@ -40,7 +41,10 @@ class BeamResultState;
 
 /// A bar member: an axis, which is a chain with at least one line, a record of properties, and lists of
 /// joints, founded parts and results. All of these are owned, and shared with member-wise copies of the beam.
-class VARNEL_EXPORT VarnelBeam : public VarnelStateObject, public VarnelPosition, public VarnelObject {
+class VARNEL_EXPORT VarnelBeam : public VarnelStateObject,
+                                 public VarnelPosition,
+                                 public VarnelObject,
+                                 public varnel::LinkTarget {
   public:
     /// The meaning of both numbers is the host's services', except that designers call an element of
     /// type 1 a beam and any other a bar.

@@ -42,7 +42,7 @@ VarnelLineBoundaryData::VarnelLineBoundaryData(int dof, const std::string &name)
 }
 
 VarnelLineBoundaryData::VarnelLineBoundaryData(const VarnelLineBoundaryData &other)
-    : VarnelPosition(), VarnelBoundaryData() {
+    : VarnelPosition(), VarnelBoundaryData(), LinkTarget() {
     copy(other);  // the type stays at its default: it is meant not to be copied
 }
 
@@ -53,12 +53,6 @@ VarnelLineBoundaryData &VarnelLineBoundaryData::operator=(const VarnelLineBounda
 
 VarnelLineBoundaryData::~VarnelLineBoundaryData() {
     for (const Listing &listing : listings_) listing.list->erase(listing.place);
-    leaveReference();
-    for (VarnelLineBoundaryData *referrer = firstReferrer_; referrer;) {
-        VarnelLineBoundaryData *next = referrer->nextReferrer_;
-        referrer->reference_ = referrer->nextReferrer_ = referrer->previousReferrer_ = nullptr;
-        referrer = next;
-    }
 }
 
 void VarnelLineBoundaryData::copy(const VarnelLineBoundaryData &other) {
@@ -78,20 +72,4 @@ void VarnelLineBoundaryData::setWidth(double width) {
 void VarnelLineBoundaryData::setLocal(bool local) {
     local_ = local;
     changed_ = true;
-}
-
-void VarnelLineBoundaryData::setReference(VarnelLineBoundaryData *reference) {
-    leaveReference();
-    reference_ = reference;
-    if (!reference) return;
-    nextReferrer_ = reference->firstReferrer_;
-    if (nextReferrer_) nextReferrer_->previousReferrer_ = this;
-    reference->firstReferrer_ = this;
-}
-
-void VarnelLineBoundaryData::leaveReference() {
-    if (!reference_) return;
-    (previousReferrer_ ? previousReferrer_->nextReferrer_ : reference_->firstReferrer_) = nextReferrer_;
-    if (nextReferrer_) nextReferrer_->previousReferrer_ = previousReferrer_;
-    reference_ = nextReferrer_ = previousReferrer_ = nullptr;
 }

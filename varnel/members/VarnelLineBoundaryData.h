@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "varnel/contracts/Link.h"
 #include "varnel/geometry/VarnelPosition.h"
 #include "varnel/members/BoundaryListing.h"
 #include "varnel/members/VarnelBoundaryData.h"
@@ -11,7 +12,9 @@
 /// The values of a line support: of an edge of a plate or of a free line. Several supports on one line refer
 /// to one record, which stands for all of them. A dying record leaves the lists of the models that list it,
 /// and nobody refers to it any more.
-class VARNEL_EXPORT VarnelLineBoundaryData : public VarnelPosition, public VarnelBoundaryData {
+class VARNEL_EXPORT VarnelLineBoundaryData : public VarnelPosition,
+                                             public VarnelBoundaryData,
+                                             public varnel::LinkTarget {
   public:
     /// What the local system is; the host's values.
     enum LocalSystemType : int { DefaultLocalSystem = 1 };
@@ -28,10 +31,10 @@ class VARNEL_EXPORT VarnelLineBoundaryData : public VarnelPosition, public Varne
     double getWidth() const { return width_; }
     void setWidth(double width);
     /// The record that stands for this one, shared; null before references are set up. Marks no change.
-    VarnelLineBoundaryData *getReference() const { return reference_; }
-    void setReference(VarnelLineBoundaryData *reference);
+    VarnelLineBoundaryData *getReference() const { return reference_.get(); }
+    void setReference(VarnelLineBoundaryData *reference) { reference_.set(reference); }
     /// Whether this record stands for itself.
-    bool isReference() const { return reference_ == this; }
+    bool isReference() const { return getReference() == this; }
     /// Direction for the local base; marks no change.
     const KzVector3D &getLocsys() const { return locsys_; }
     void setLocsys(const KzVector3D &direction) { locsys_ = direction; }
@@ -65,19 +68,14 @@ class VARNEL_EXPORT VarnelLineBoundaryData : public VarnelPosition, public Varne
     };
 
     void copy(const VarnelLineBoundaryData &other);
-    void leaveReference();
 
     double width_ = 0.0;
-    VarnelLineBoundaryData *reference_ = nullptr;
+    varnel::Link<VarnelLineBoundaryData> reference_;
     KzVector3D locsys_{0.0, 0.0, 1.0};
     LocalSystemType type_ = DefaultLocalSystem;
     bool changed_ = true;
     bool local_ = false;
     std::vector<Listing> listings_;  // where models list this record
-    // The records that refer to this one are chained, so that leaving costs the same however many there are.
-    VarnelLineBoundaryData *firstReferrer_ = nullptr;
-    VarnelLineBoundaryData *nextReferrer_ = nullptr;
-    VarnelLineBoundaryData *previousReferrer_ = nullptr;
 };
 
 #endif
