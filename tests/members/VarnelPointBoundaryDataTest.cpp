@@ -3,8 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <functional>
-#include <memory>
+#include <optional>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 #include "tests/support/Places.h"
@@ -140,7 +141,7 @@ TEST(VarnelPointBoundaryData, AnyOtherAngleTurnsTheFrame) {
 }
 
 TEST(VarnelPointBoundaryData, CopiesHaveSpringsAndFrameOfTheirOwnAndAreChanged) {
-    auto source = std::make_unique<VarnelPointBoundaryData>();
+    std::optional<VarnelPointBoundaryData> source(std::in_place);
     fill(*source);
     const VarnelPointBoundaryData copy(*source);
     VarnelPointBoundaryData assigned = quietRecord();
