@@ -248,8 +248,8 @@ TEST_F(SettingsElement, EachDefaultIsReadAlone) {
         {"<BEAM NAME=\"n\" ETYPE=\"3\" BTYPE=\"2\" ANGLE=\"30\" PARTS=\"4\"><MATERIAL>S235</MATERIAL></BEAM>",
          [](const VarnelDefaultProperties &d) {
              const VarnelBeamProperties &beam = d.getBeamProp();
-             return beam.getName() == "n" && beam.getElementType() == 3 && beam.getBeamType() == 2 &&
-                    beam.getAngle() == 30.0 && beam.getParts() == 4 &&
+             return beam.getName() == "n" && beam.getElementType() == 3 && beam.getParts() == 4 &&
+                    beam.getBeamType() == 2 && beam.getAngle() == 30.0 &&
                     beam.getMaterial() == KzMaterialHandler::get()->findMaterialToName("S235", 0);
          }},
         {"<PLATE NAME=\"n\" THICK=\"0.35\" TYPE=\"1\" MESH=\"3\" MESHSIZE=\"0.1\" AUTOMESH=\"0\" "
@@ -268,12 +268,11 @@ TEST_F(SettingsElement, EachDefaultIsReadAlone) {
         {"<LDAREA NAME=\"n\"/>",
          [](const VarnelDefaultProperties &d) { return d.getLDA().getName() == "n"; }},
     };
-    const std::size_t count = std::size(rows);
-    for (std::size_t read = 0; read < count; ++read) {
+    for (std::size_t read = 0; read < std::size(rows); ++read) {
         SCOPED_TRACE(rows[read].element);
         resetDefaults();
         readDefaults(rows[read].element);
-        for (std::size_t i = 0; i < count; ++i) EXPECT_EQ(rows[i].arrived(defaults()), i == read) << i;
+        for (const auto &row : rows) EXPECT_EQ(row.arrived(defaults()), &row == rows + read) << row.element;
     }
 }
 
