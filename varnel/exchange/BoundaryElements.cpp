@@ -40,6 +40,7 @@ class OutputPointBoundary : public VarnelPointBoundaryVisitor {
 }  // namespace
 
 void VarnelExchangeXml::updatePointBoundaries(Varnel *model) {
+    if (!model) return;
     open("PBOUNDS");
     flush();
     for (VarnelPointBoundary *boundary : model->getPointBoundaries()) {
@@ -52,6 +53,7 @@ void VarnelExchangeXml::updatePointBoundaries(Varnel *model) {
 }
 
 void VarnelExchangeXml::updateOnePointBoundary(Varnel *, VarnelPointBoundary *boundary) {
+    if (!boundary) return;
     const bool inXY = boundary->onlyRotatedInXY();
     setAttribute("NAME", boundary->getName());
     setAttribute("DOF", boundary->getDof());
@@ -71,6 +73,7 @@ void VarnelExchangeXml::updateOnePointBoundary(Varnel *, VarnelPointBoundary *bo
 }
 
 VarnelPointBoundary *VarnelExchangeXml::createOnePointBoundary(KzXmlData *element, Varnel *model) {
+    if (!element || !model) return nullptr;
     const int dof = varnel::readInt(element, "DOF", 0);
     KzVector3D place;
     getVectorToKey(element, "POS", place);
@@ -87,6 +90,7 @@ VarnelPointBoundary *VarnelExchangeXml::createOnePointBoundary(KzXmlData *elemen
 }
 
 void VarnelExchangeXml::readOnePointBoundary(KzXmlData *element, VarnelPointBoundary *boundary) {
+    if (!element || !boundary) return;
     KzVector3D place;
     getVectorToKey(element, "POS", place);
     boundary->setDof(varnel::readInt(element, "DOF", 0));
@@ -104,12 +108,7 @@ void VarnelExchangeXml::readOnePointBoundary(KzXmlData *element, VarnelPointBoun
     if (hasDisplacement || hasRotation)
         boundary->setStiffness({displacement.getX(), displacement.getY(), displacement.getZ(),
                                 rotation.getX(), rotation.getY(), rotation.getZ()});
-    if (const KzXmlData *weight = element->findChild("OWNWEIGHT")) {
-        varnel::ifBool(weight, "TRANSFER", [boundary](bool value) { boundary->setTransferOwnWeight(value); });
-        varnel::ifDouble(weight, "SPECIFICWEIGHT",
-                         [boundary](double value) { boundary->setSpecificWeight(value); });
-        varnel::ifDouble(weight, "HEIGHT", [boundary](double value) { boundary->setHeight(value); });
-    }
+    readOneOwnWeightTransferData(element, &boundary->getData());
 }
 
 void VarnelExchangeXml::readPointBoundaryBase(KzXmlData *element, VarnelPointBoundary *boundary) {
@@ -128,6 +127,7 @@ void VarnelExchangeXml::readPointBoundaryBase(KzXmlData *element, VarnelPointBou
 }
 
 void VarnelExchangeXml::updateLineBoundaries(Varnel *model) {
+    if (!model) return;
     open("LBOUNDS");
     flush();
     for (VarnelLineBoundary *boundary : model->getLineBoundaries()) {
@@ -140,6 +140,7 @@ void VarnelExchangeXml::updateLineBoundaries(Varnel *model) {
 }
 
 void VarnelExchangeXml::updateOneLineBoundary(Varnel *, VarnelLineBoundary *boundary) {
+    if (!boundary) return;
     updateOneLineBoundaryData(&boundary->getData());
     updateOneLine(boundary->getGeo());
     updateOneStiffnessData(boundary->getStiffnessData());
@@ -147,6 +148,7 @@ void VarnelExchangeXml::updateOneLineBoundary(Varnel *, VarnelLineBoundary *boun
 }
 
 VarnelLineBoundary *VarnelExchangeXml::createOneLineBoundary(KzXmlData *element, Varnel *model) {
+    if (!element || !model) return nullptr;
     auto boundary = std::make_unique<VarnelLineBoundary>(getLine(element).release());
     readOneLineBoundary(element, boundary.get());
     model->add(boundary.get());
@@ -154,12 +156,14 @@ VarnelLineBoundary *VarnelExchangeXml::createOneLineBoundary(KzXmlData *element,
 }
 
 void VarnelExchangeXml::readOneLineBoundary(KzXmlData *element, VarnelLineBoundary *boundary) {
+    if (!element || !boundary) return;
     varnel::ifInt(element, "NUMBER", [boundary](int value) { boundary->setNumber(value); });
     varnel::ifBool(element, "LOCAL", [boundary](bool value) { boundary->setLocal(value); });
     readOneLineBoundaryData(element, &boundary->getData());
 }
 
 void VarnelExchangeXml::updateOneLineBoundaryData(const VarnelLineBoundaryData *data) {
+    if (!data) return;
     setAttribute("NAME", data->getName());
     setAttribute("DOF", data->getDof());
     setAttribute("WIDTH", data->getWidth());
@@ -168,6 +172,7 @@ void VarnelExchangeXml::updateOneLineBoundaryData(const VarnelLineBoundaryData *
 }
 
 void VarnelExchangeXml::readOneLineBoundaryData(KzXmlData *element, VarnelLineBoundaryData *data) {
+    if (!element || !data) return;
     data->setDof(varnel::readInt(element, "DOF", 0));
     varnel::ifDouble(element, "WIDTH", [data](double value) { data->setWidth(value); });
     varnel::ifText(element, "NAME", [data](const std::string &value) { data->setName(value); });
@@ -189,6 +194,7 @@ void VarnelExchangeXml::updateOneStiffnessData(const VarnelBoundaryStiffnessData
 }
 
 void VarnelExchangeXml::updateOneOwnWeightTransferData(const VarnelBoundaryData *data) {
+    if (!data) return;
     open("OWNWEIGHT");
     flush();
     setAttribute("TRANSFER", data->doTransferOwnWeight());
@@ -198,6 +204,7 @@ void VarnelExchangeXml::updateOneOwnWeightTransferData(const VarnelBoundaryData 
 }
 
 void VarnelExchangeXml::readOneOwnWeightTransferData(KzXmlData *element, VarnelBoundaryData *data) {
+    if (!element || !data) return;
     const KzXmlData *weight = element->findChild("OWNWEIGHT");
     varnel::ifBool(weight, "TRANSFER", [data](bool value) { data->setTransferOwnWeight(value); });
     varnel::ifDouble(weight, "SPECIFICWEIGHT", [data](double value) { data->setSpecificWeight(value); });

@@ -34,6 +34,7 @@ void VarnelExchangeXml::readLoadcase(KzXmlData *element, VarnelLoad *load) {
 }
 
 void VarnelExchangeXml::updatePointLoads(Varnel *model) {
+    if (!model) return;
     open("POINTLOADS");
     flush();
     for (VarnelPointLoad *load : model->getPointLoads()) {
@@ -46,6 +47,7 @@ void VarnelExchangeXml::updatePointLoads(Varnel *model) {
 }
 
 void VarnelExchangeXml::updateOnePointLoad(Varnel *, VarnelPointLoad *load) {
+    if (!load) return;
     setAttribute("NAME", load->getName());
     setAttribute("LCTYPE", load->getLcType());
     updateLoadcase(*this, *load);
@@ -55,12 +57,14 @@ void VarnelExchangeXml::updateOnePointLoad(Varnel *, VarnelPointLoad *load) {
 }
 
 VarnelPointLoad *VarnelExchangeXml::createOnePointLoad(KzXmlData *element, Varnel *model) {
+    if (!element || !model) return nullptr;
     VarnelPointLoad *load = model->givePointLoad();
     readOnePointLoad(element, load);
     return load;
 }
 
 void VarnelExchangeXml::readOnePointLoad(KzXmlData *element, VarnelPointLoad *load) {
+    if (!element || !load) return;
     const int number = varnel::readInt(element, "NUMBER", 0);
     const int type = varnel::readInt(element, "LCTYPE", 0);
     KzVector3D vector;
@@ -74,6 +78,7 @@ void VarnelExchangeXml::readOnePointLoad(KzXmlData *element, VarnelPointLoad *lo
 }
 
 void VarnelExchangeXml::updateLineLoads(Varnel *model) {
+    if (!model) return;
     open("LINELOADS");
     flush();
     for (VarnelLineLoad *load : model->getLineLoads()) {
@@ -86,6 +91,7 @@ void VarnelExchangeXml::updateLineLoads(Varnel *model) {
 }
 
 void VarnelExchangeXml::updateOneLineLoad(Varnel *, VarnelLineLoad *load) {
+    if (!load) return;
     setAttribute("LCTYPE", load->getLcType());
     updateLoadcase(*this, *load);
     updateOneLine(load->getLine());
@@ -97,12 +103,14 @@ void VarnelExchangeXml::updateOneLineLoad(Varnel *, VarnelLineLoad *load) {
 }
 
 VarnelLineLoad *VarnelExchangeXml::createOneLineLoad(KzXmlData *element, Varnel *model) {
+    if (!element || !model) return nullptr;
     VarnelLineLoad *load = model->giveLineLoad(getLine(element).release());
     readOneLineLoad(element, load);
     return load;
 }
 
 void VarnelExchangeXml::readOneLineLoad(KzXmlData *element, VarnelLineLoad *load) {
+    if (!element || !load) return;
     const int number = varnel::readInt(element, "NUMBER", 0);
     VarnelLineLoadData data;
     readOneLineLoadData(element, &data);
@@ -117,6 +125,7 @@ void VarnelExchangeXml::readOneLineLoad(KzXmlData *element, VarnelLineLoad *load
 }
 
 void VarnelExchangeXml::updateOneLineLoadData(const VarnelLineLoadData *data) {
+    if (!data) return;
     setAttribute("NAME", data->getName());
     setAttribute("TYPE", data->getType());
     updateVectorToKey("FORCEA", data->getP1());
@@ -126,6 +135,7 @@ void VarnelExchangeXml::updateOneLineLoadData(const VarnelLineLoadData *data) {
 }
 
 void VarnelExchangeXml::readOneLineLoadData(KzXmlData *element, VarnelLineLoadData *data) {
+    if (!data) return;
     KzVector3D vector;
     if (getVectorToKey(element, "FORCEA", vector)) data->setP1(vector);
     if (getVectorToKey(element, "FORCEE", vector)) data->setP2(vector);
@@ -137,6 +147,7 @@ void VarnelExchangeXml::readOneLineLoadData(KzXmlData *element, VarnelLineLoadDa
 }
 
 void VarnelExchangeXml::updateAreaLoads(Varnel *model) {
+    if (!model) return;
     open("AREALOADS");
     flush();
     for (VarnelAreaLoad *load : model->getAreaLoads()) {
@@ -149,6 +160,7 @@ void VarnelExchangeXml::updateAreaLoads(Varnel *model) {
 }
 
 void VarnelExchangeXml::updateOneAreaLoad(Varnel *, VarnelAreaLoad *load) {
+    if (!load) return;
     setAttribute("LCTYPE", load->getLcType());
     setAttribute("TYPE", load->getData().getType());
     setAttribute("TRANS", load->getData().getTransmissionType());
@@ -157,12 +169,14 @@ void VarnelExchangeXml::updateOneAreaLoad(Varnel *, VarnelAreaLoad *load) {
 }
 
 void VarnelExchangeXml::updateAreaLoadValues(VarnelAreaLoad *load) {
+    if (!load) return;
     setAttribute("NAME", load->getName());
     updateLoadcase(*this, *load);
     updateVector(load->getData().getP());
 }
 
 VarnelAreaLoad *VarnelExchangeXml::createOneAreaLoad(KzXmlData *element, Varnel *model) {
+    if (!element || !model) return nullptr;
     VarnelAreaLoad *load = model->giveAreaLoad();
     readOneAreaLoad(element, load);
     load->setArea(readOutline(element, model));
@@ -170,6 +184,7 @@ VarnelAreaLoad *VarnelExchangeXml::createOneAreaLoad(KzXmlData *element, Varnel 
 }
 
 void VarnelExchangeXml::readOneAreaLoad(KzXmlData *element, VarnelAreaLoad *load) {
+    if (!element || !load) return;
     // The number in the file is not read: the model numbers its area loads by their place.
     load->setLcType(loadcaseType(varnel::readInt(element, "LCTYPE", 2)));
     readLoadcase(element, load);
@@ -177,6 +192,7 @@ void VarnelExchangeXml::readOneAreaLoad(KzXmlData *element, VarnelAreaLoad *load
 }
 
 void VarnelExchangeXml::readAreaLoadData(KzXmlData *element, VarnelAreaLoad *load) {
+    if (!element || !load) return;
     VarnelAreaLoadData data = load->getData();
     data.setType(static_cast<VarnelLoadData::loadType>(varnel::readInt(element, "TYPE", 0)));
     data.setTransmissionType(

@@ -31,6 +31,7 @@ constexpr const char *sectionKeys[] = {"SECB", "SECB2"};  // at the start, at th
 VarnelExchangeXmlBeam::~VarnelExchangeXmlBeam() = default;
 
 void VarnelExchangeXmlBeam::update(Varnel *model) {
+    if (!model) return;
     if (model->getBeams().empty()) {
         getExXml()->remove("BEAMS");  // the only list that goes when it is empty
         return;
@@ -47,15 +48,16 @@ void VarnelExchangeXmlBeam::update(Varnel *model) {
 }
 
 void VarnelExchangeXmlBeam::create(KzXmlData *subSystem, Varnel *model) {
+    if (!subSystem || !model) return;
     VarnelBeam *beam = nullptr;
-    varnel::eachChild(subSystem ? subSystem->findTree("BEAMS", false) : nullptr,
-                      [this, model, &beam](KzXmlData *child) {
-                          if (child->getName() == "BEAM") beam = createOneBeam(child, model);
-                          createBeamResults(child, beam);
-                      });
+    varnel::eachChild(subSystem->findTree("BEAMS", false), [this, model, &beam](KzXmlData *child) {
+        if (child->getName() == "BEAM") beam = createOneBeam(child, model);
+        createBeamResults(child, beam);
+    });
 }
 
 VarnelBeam *VarnelExchangeXmlBeam::createOneBeam(KzXmlData *element, Varnel *model) {
+    if (!element || !model) return nullptr;
     const int number = varnel::readInt(element, "NUMBER", -1);
     VarnelBeam *beam = model->findBeamToNumber(number);
     if (!beam) {
@@ -68,6 +70,7 @@ VarnelBeam *VarnelExchangeXmlBeam::createOneBeam(KzXmlData *element, Varnel *mod
 }
 
 void VarnelExchangeXmlBeam::updateOneBeam(VarnelBeam *beam) {
+    if (!beam) return;
     setAttribute("NAME", beam->getName());
     setAttribute("ETYPE", static_cast<int>(beam->getElementType()));
     setAttribute("BTYPE", static_cast<int>(beam->getBeamType()));
@@ -91,6 +94,7 @@ void VarnelExchangeXmlBeam::updateOneBeam(VarnelBeam *beam) {
 }
 
 void VarnelExchangeXmlBeam::readOneBeam(KzXmlData *element, VarnelBeam *beam, Varnel *model) {
+    if (!element || !beam) return;
     readGeometry(element, beam, model);
     varnel::ifText(element, "NAME", [beam](const std::string &value) { beam->setName(value); });
     const auto setElementType = [beam](int value) { beam->setElementType(value); };
