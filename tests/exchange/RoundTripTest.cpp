@@ -106,10 +106,11 @@ TEST_P(RoundTrip, SecondDocumentIsTheThird) {
         const std::string second = readAndWrite(folder.file("1.xml"), "2.xml", &after);
         EXPECT_EQ(firstDifference(before, after), "");
         const std::string third = readAndWrite(folder.file("2.xml"), "3.xml", nullptr);
-        if (exact)
+        if (exact) {
             EXPECT_EQ(firstDifference(second, third), "");
-        else if (third != second)
+        } else if (third != second) {
             EXPECT_EQ(difference(second, third), "");
+        }
     }
 }
 
