@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <memory>
+#include <random>
 #include <vector>
 
 #include "tests/support/Places.h"
@@ -241,6 +242,36 @@ TEST(VarnelLineBoundaryData, ReferrersLeaveInAnyOrder) {
     EXPECT_EQ(nullptr, referrers[0]->getReference());
     EXPECT_EQ(nullptr, referrers[1]->getReference());
     EXPECT_EQ(&target, referrers[3]->getReference());
+}
+
+TEST(VarnelLineBoundaryData, ReferencesHoldThroughAnyOrderOfSettingAndDying) {
+    std::mt19937 random(11);
+    const std::size_t count = 12;
+    std::vector<std::unique_ptr<VarnelLineBoundaryData>> records(count);
+    std::vector<std::size_t> expected(count, count);  // count stands for none
+    for (auto &record : records) record = std::make_unique<VarnelLineBoundaryData>();
+    for (int step = 0; step < 5000; ++step) {
+        const std::size_t i = random() % count;
+        const std::size_t j = random() % (count + 1);
+        switch (random() % 4) {
+            case 0:
+                records[i] = std::make_unique<VarnelLineBoundaryData>();
+                expected[i] = count;
+                for (std::size_t &target : expected)
+                    if (target == i) target = count;
+                break;
+            case 1:
+                *records[i] = *records[j % count];
+                expected[i] = count;
+                break;
+            default:
+                records[i]->setReference(j == count ? nullptr : records[j].get());
+                expected[i] = j;
+        }
+        for (std::size_t k = 0; k < count; ++k)
+            ASSERT_EQ(expected[k] == count ? nullptr : records[expected[k]].get(), records[k]->getReference())
+                << step;
+    }
 }
 
 TEST(VarnelLineBoundaryData, ItsOperationsKeepTheirSlots) {

@@ -125,6 +125,8 @@ TEST(VarnelPlateEdges, TakeTheValuesOfASupportThatIsThere) {
     EXPECT_EQ("S", boundary->getName());
     EXPECT_FALSE(boundary->getChanged());
     EXPECT_TRUE(static_cast<VarnelBoundaryData *>(boundary)->getChanged());
+    plate->setBoundary(0, 1, noSprings, "");
+    EXPECT_EQ("", boundary->getName());
 }
 
 TEST(VarnelPlateEdges, TakeTheValuesOfASupportBesideAJoint) {
