@@ -26,7 +26,11 @@ KzMaterialHandler *KzMaterialHandler::get() {
 }
 
 bool KzMaterialHandler::setDatabase() {
-    if (!materials_.items().empty()) return true;
+    std::call_once(stocked_, [this] { addStock(); });
+    return true;
+}
+
+void KzMaterialHandler::addStock() {
     for (const char *name :
          {"C12/15", "C16/20", "C20/25", "C25/30", "C30/37", "C35/45", "C40/50", "C45/55", "C50/60"})
         materials_.add(new KzConcrete(name, concreteRho, concreteGamma));
@@ -37,7 +41,6 @@ bool KzMaterialHandler::setDatabase() {
     for (const char *name : {"S235", "S275", "S355"})
         materials_.add(new KzMaterial(name, steelRho, steelGamma, KzMaterial::STEEL));
     materials_.add(new KzMaterial("C24", timberRho, timberGamma, KzMaterial::TIMBER));
-    return true;
 }
 
 KzMaterial *KzMaterialHandler::findMaterialToName(const std::string &name, int) {
@@ -63,6 +66,7 @@ KzConcrete *KzMaterialHandler::findConcreteToName(const std::string &name, int) 
 KzMaterialReinforcement *KzMaterialHandler::findReinforcementVariant(const std::string &name, int variant) {
     KzMaterialReinforcement *plain = KzMaterialHandler::findReinforcementToName(name);
     if (!plain || plain->getVariant() == variant) return plain;
+    const std::lock_guard<std::mutex> lock(variantsMutex_);
     std::unique_ptr<KzMaterialReinforcement> &made = variants_[{name, variant}];
     if (!made) {
         made.reset(plain->clone());

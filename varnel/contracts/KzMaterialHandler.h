@@ -3,6 +3,7 @@
 
 #include <map>
 #include <memory>
+#include <mutex>
 #include <string>
 #include <utility>
 #include <vector>
@@ -17,7 +18,7 @@ class KzPreStressSteel;
 class KzReinfSteel;
 
 /// The predefined materials of the process; empty until setDatabase is called. All of them are owned here and
-/// shared by all projects. Hosts rely on the order of the look-ups: materials are number 0, concretes
+/// shared by all projects, which may live on different threads. Hosts rely on the order of the look-ups: materials are number 0, concretes
 /// number 4.
 class VARNEL_EXPORT KzMaterialHandler {
   public:
@@ -42,8 +43,11 @@ class VARNEL_EXPORT KzMaterialHandler {
 
   private:
     KzMaterialHandler();
+    void addStock();
 
     varnel::NamedList<KzMaterial> materials_;
+    std::once_flag stocked_;
+    std::mutex variantsMutex_;
     std::map<std::pair<std::string, int>, std::unique_ptr<KzMaterialReinforcement>> variants_;
 };
 

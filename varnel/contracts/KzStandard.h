@@ -1,10 +1,12 @@
 #ifndef VARNEL_CONTRACTS_KZSTANDARD_H
 #define VARNEL_CONTRACTS_KZSTANDARD_H
 
+#include <atomic>
+
 #include "varnel/contracts/Export.h"
 #include "varnel/contracts/Standard/Mode.h"
 
-/// The code of practice of the process, 0 at first.
+/// The code of practice of the process, 0 at first. Documents that are read set it, on whatever thread.
 class VARNEL_EXPORT KzStandard {
   public:
     static KzStandard *get();
@@ -18,7 +20,7 @@ class VARNEL_EXPORT KzStandard {
   private:
     KzStandard() = default;
 
-    Standard::Mode mode_ = static_cast<Standard::Mode>(0);
+    std::atomic<Standard::Mode> mode_{static_cast<Standard::Mode>(0)};
 };
 
 #endif
