@@ -60,6 +60,15 @@ TEST(KeyedElements, GivesAKeyOnlyOnce) {
     EXPECT_EQ(tree.getRoot()->getChildren().size(), 2U);
 }
 
+TEST(KeyedElements, GivesTheFirstChildOfANameOrMakesIt) {
+    KzXmlData parent("LIST", nullptr);
+    KzXmlData *made = varnel::giveChild(parent, "A");
+    parent.makeChild("A");
+    EXPECT_EQ(made->getName(), "A");
+    EXPECT_EQ(varnel::giveChild(parent, "A"), made);
+    EXPECT_EQ(parent.getChildren().size(), 2U);
+}
+
 TEST(KeyedElements, BearsDeepForeignContent) {
     KzXmlTree tree("LIST");
     tree.open("FOREIGN");

@@ -343,6 +343,31 @@ TEST(KzXmlReading, PiecesLongerThanAWindowAreRead) {
     EXPECT_EQ(dataOf("<R>" + std::string(700000, '\xE4') + "</R>").size(), 1400000U);
 }
 
+TEST(KzXmlReading, APieceOfManyWindowsIsReadInLargerAndLargerPortions) {
+    // Each portion looks through the whole piece again, so there must be few of them.
+    struct Counting : std::stringbuf {
+        using std::stringbuf::stringbuf;
+        std::streamsize xsgetn(char *to, std::streamsize size) override {
+            ++reads;
+            return std::stringbuf::xsgetn(to, size);
+        }
+        int reads = 0;
+    };
+    const std::size_t size = 4000000;
+    std::string wide = utf16(u"<R>", false);
+    for (std::size_t i = 0; i < size; ++i) wide.append("\xE4\0", 2);
+    const std::string narrow(size, '\xE4');
+    for (const std::string &text : {wide + utf16(u"</R>", false).substr(2), "<R>" + narrow + "</R>",
+                                    "<?xml version='1.0' encoding='iso-8859-1'?><R>" + narrow + "</R>"}) {
+        Counting buffer(text);
+        std::istream stream(&buffer);
+        KzXmlTree tree("OLD");
+        ASSERT_TRUE(tree.buildOfStream(stream));
+        EXPECT_EQ(tree.getRoot()->getData().size(), 2 * size);
+        EXPECT_LT(buffer.reads, 20);
+    }
+}
+
 TEST(KzXmlReading, ErrorsFarInsideADocumentHaveTheirPlace) {
     std::string text = "<R>\r\n";
     for (int i = 0; i < 100000; ++i) text += "  <A>\xC3\xA4</A>\r\n";

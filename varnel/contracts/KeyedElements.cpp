@@ -35,6 +35,11 @@ void copyContent(const KzXmlData &from, KzXmlData &to, Test dropped) {
 
 }  // namespace
 
+KzXmlData *giveChild(KzXmlData &element, std::string_view name) {
+    KzXmlData *child = element.findChild(name);
+    return child ? child : element.makeChild(name);
+}
+
 KzXmlData *KeyedElements::give(std::string_view value) {
     return once(KzXmlDataUtil::openToAttribute(parent_, name_, key_, value));
 }

@@ -8,6 +8,9 @@ class KzXmlData;
 
 namespace varnel {
 
+/// The first child of that name, made if there is none.
+KzXmlData *giveChild(KzXmlData &element, std::string_view name);
+
 /// Writes a list of elements of one name, which differ in a key attribute, over what is there already:
 /// elements that stay keep their place and what others wrote into them.
 class KeyedElements {

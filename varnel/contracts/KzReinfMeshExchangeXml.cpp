@@ -40,10 +40,7 @@ void KzReinfMeshExchangeXml::createReinfMeshes(KzXmlData *root) {
 
 void KzReinfMeshExchangeXml::updateReinfMeshes() {
     if (!tree_) return;
-    KzXmlData *root = tree_->getRoot();
-    KzXmlData *meshes = root->findChild(listTag);
-    if (!meshes) meshes = root->makeChild(listTag);
-    varnel::KeyedElements elements(meshes, meshTag, nameKey);
+    varnel::KeyedElements elements(varnel::giveChild(*tree_->getRoot(), listTag), meshTag, nameKey);
     if (list_) {
         for (const KzReinfStockMesh *mesh : list_->getMeshes()) {
             KzXmlData *element = elements.give(mesh->getName());

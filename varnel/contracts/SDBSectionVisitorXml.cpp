@@ -83,10 +83,7 @@ void SDBSectionVisitorXml::createOneSection(const KzXmlData *element) {
 
 void SDBSectionVisitorXml::writeSections(KzXmlTree *tree) {
     if (!tree) return;
-    KzXmlData *root = tree->getRoot();
-    KzXmlData *list = root->findChild(listTag);
-    if (!list) list = root->makeChild(listTag);
-    varnel::KeyedElements elements(list, sectionTag, nameKey);
+    varnel::KeyedElements elements(varnel::giveChild(*tree->getRoot(), listTag), sectionTag, nameKey);
     if (manager_) {
         for (const SDBSection *section : manager_->getSections())
             if (KzXmlData *element = elements.give(section->getName())) writeOneSection(*section, element);

@@ -138,8 +138,9 @@ bool TextWindow::appendUtf8Bytes() {
 bool TextWindow::appendOtherBytes() {
     const std::size_t had = raw_.size();
     if (!ended_) {
-        raw_.resize(had + portion / 8);
-        raw_.resize(had + read(raw_.data() + had, portion / 8));
+        const std::size_t more = std::max(portion / 8, size_);  // doubles what is kept of a piece too long
+        raw_.resize(had + more);
+        raw_.resize(had + read(raw_.data() + had, more));
     }
     decoded_.clear();
     raw_.erase(0, appendDecoded(decoded_, raw_, encoding_, ended_));

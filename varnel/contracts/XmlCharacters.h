@@ -2,6 +2,7 @@
 #define VARNEL_CONTRACTS_XMLCHARACTERS_H
 
 #include <array>
+#include <cstddef>
 #include <string_view>
 
 namespace varnel::xml {
@@ -39,6 +40,10 @@ inline constexpr std::array<unsigned char, 256> characterKinds = makeCharacterKi
 
 inline bool is(char c, unsigned kind) {
     return characterKinds[static_cast<unsigned char>(c)] & kind;
+}
+
+inline std::string_view between(const char *begin, const char *end) {
+    return {begin, static_cast<std::size_t>(end - begin)};
 }
 
 inline bool isBlank(std::string_view text) {

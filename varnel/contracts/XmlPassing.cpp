@@ -7,13 +7,10 @@
 
 namespace varnel {
 
+using xml::between;
 using xml::is;
 
 namespace {
-
-std::string_view between(const char *begin, const char *end) {
-    return {begin, static_cast<std::size_t>(end - begin)};
-}
 
 bool isNameAt(const XmlName &name, const char *at) {
     return name.standsAt(at) && !is(at[name.text.size()], xml::namePart);

@@ -1,6 +1,6 @@
 #include "varnel/contracts/XmlReader.h"
 
-#include <cstring>
+#include <utility>
 
 #include "varnel/contracts/KzXmlData.h"
 #include "varnel/contracts/Tools/Error.h"
@@ -10,15 +10,8 @@
 
 namespace varnel {
 
+using xml::between;
 using xml::is;
-
-namespace {
-
-std::string_view between(const char *begin, const char *end) {
-    return {begin, static_cast<std::size_t>(end - begin)};
-}
-
-}  // namespace
 
 XmlReader::~XmlReader() {
     for (auto *element : children_)

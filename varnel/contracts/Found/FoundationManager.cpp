@@ -23,19 +23,14 @@ std::string defaultName(int number) {
     return "F" + std::to_string(number);
 }
 
-KzXmlData *giveChild(KzXmlData *element, const char *name) {
-    KzXmlData *child = element->findChild(name);
-    return child ? child : element->makeChild(name);
-}
-
 void writeFoundation(const Foundation &foundation, KzXmlData *element) {
     element->setAttribute(nameKey, foundation.getName());
     KzVector3D line;
     foundation.getDispLine(line);
-    KzXmlData *child = giveChild(element, lineTag);
-    giveChild(child, "X")->setData(line.getX());
-    giveChild(child, "Y")->setData(line.getY());
-    giveChild(child, "Z")->setData(line.getZ());
+    KzXmlData *child = varnel::giveChild(*element, lineTag);
+    varnel::giveChild(*child, "X")->setData(line.getX());
+    varnel::giveChild(*child, "Y")->setData(line.getY());
+    varnel::giveChild(*child, "Z")->setData(line.getZ());
 }
 
 }  // namespace
@@ -105,7 +100,8 @@ void FoundationManager::createOneFoundation(const KzXmlData *element) {
 
 void FoundationManager::updateXml(KzXmlTree *tree) const {
     if (!tree) return;
-    varnel::KeyedElements elements(giveChild(tree->getRoot(), listTag), foundationTag, numberKey);
+    KzXmlData *list = varnel::giveChild(*tree->getRoot(), listTag);
+    varnel::KeyedElements elements(list, foundationTag, numberKey);
     for (const Foundation *foundation : foundations_.items())
         if (KzXmlData *element = elements.give(foundation->number_)) writeFoundation(*foundation, element);
     elements.dropOthers();
