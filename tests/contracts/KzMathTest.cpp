@@ -119,6 +119,25 @@ TEST(KzMath, ParallelAndSkewStraightsDoNotMeet) {
                                             KzVector3D(0.0, 1.0, 0.99e-9), ta, tb, eps));
 }
 
+TEST(KzMath, StraightsCountAsParallelUpToASineOfTheTolerance) {
+    double ta = 42.0;
+    double tb = 43.0;
+    const KzVector3D o;
+    const auto meet = [&](double sine) {
+        return KzMath::lineIntersection3D(o, KzVector3D(2.0, 0.0, 0.0), o,
+                                          KzVector3D(3.0 * std::sqrt(1.0 - sine * sine), 3.0 * sine, 0.0), ta,
+                                          tb, 1e-3);
+    };
+    EXPECT_EQ(0, meet(0.99e-3));
+    EXPECT_EQ(0, meet(-0.99e-3));
+    EXPECT_EQ(42.0, ta);
+    EXPECT_EQ(43.0, tb);
+    EXPECT_EQ(1, meet(1.01e-3));
+    EXPECT_EQ(1, meet(-1.01e-3));
+    EXPECT_EQ(0, KzMath::lineIntersection3D(o, KzVector3D(2.0, 0.0, 0.0), o, KzVector3D(0.0, 3.0, 0.0), ta,
+                                            tb, 1.0));
+}
+
 TEST(KzMath, TheGapOfSkewStraightsScalesWithTheirSize) {
     double ta = 0.0;
     double tb = 0.0;
@@ -138,6 +157,7 @@ TEST(KzMath, TellsInsideFromBoundaryAndOutside) {
          {Row{{2.0, 2.0, 0.0}, 1}, Row{{2.0, 2.0, 50.0}, 1}, Row{{0.0, 0.0, 0.0}, 2}, Row{{4.0, 2.0, 0.0}, 2},
           Row{{4.001, 2.0, 0.0}, 2}, Row{{3.9995, 2.0, 0.0}, 2}, Row{{4.0011, 2.0, 0.0}, 0},
           Row{{4.0, -0.001, 0.0}, 2}, Row{{-1.0, 0.0, 0.0}, 0}, Row{{-1.0, 4.0, 0.0}, 0},
+          Row{{4.0, 2.0, 50.0}, 2}, Row{{4.0 + 0.001 * (1.0 + 2e-9), 2.0, 0.0}, 0},
           Row{{std::nan(""), 2.0, 0.0}, 0}, Row{{2.0, std::nan(""), 0.0}, 0}}) {
         SCOPED_TRACE(testing::Message() << row.point.getX() << " " << row.point.getY());
         EXPECT_EQ(row.expected, KzMath::pointInPolygon2d(row.point, square, 0.001));
@@ -173,6 +193,16 @@ TEST(KzMath, TheAreaOfAPolygonIsNeverNegative) {
     EXPECT_DOUBLE_EQ(6.0, KzMath::polygonArea(angle));
     EXPECT_EQ(0.0, KzMath::polygonArea({{0.0, 0.0, 0.0}, {4.0, 0.0, 0.0}}));
     EXPECT_EQ(0.0, KzMath::polygonArea({}));
+}
+
+TEST(KzMath, TheAreaIsThatOfTheProjectionOntoThePlane) {
+    const Points roof = {{0.0, 0.0, 1.0}, {4.0, 0.0, 1.0}, {4.0, 4.0, 9.0}, {0.0, 4.0, 9.0}};
+    EXPECT_DOUBLE_EQ(16.0, KzMath::polygonArea(roof));
+    EXPECT_DOUBLE_EQ(16.0, KzMath::polygonAreaXYZ(roof, KzVector3D(0.0, 0.0, 1.0)));
+    EXPECT_DOUBLE_EQ(16.0 * std::sqrt(5.0), KzMath::polygonAreaXYZ(roof, KzVector3D(0.0, -2.0, 1.0)));
+    const Points wall = {{0.0, 0.0, 0.0}, {4.0, 0.0, 0.0}, {4.0, 0.0, 3.0}, {0.0, 0.0, 3.0}};
+    EXPECT_EQ(0.0, KzMath::polygonArea(wall));
+    EXPECT_EQ(KzVector3D(2.0, 0.0, 1.5), KzMath::polygonCentroid(closed(wall)));
 }
 
 TEST(KzMath, AnAreaFarFromTheOriginKeepsItsDigits) {

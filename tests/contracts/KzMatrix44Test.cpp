@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <random>
 #include <type_traits>
 
 #include "varnel/contracts/KzMath.h"
@@ -83,6 +84,26 @@ TEST(KzMatrix44, TransformsIntoAFrameAndBack) {
     const KzVector3D point(3.0, 4.0, -5.0);
     expectNear(point, inclinedFrame().transformBack(inclinedFrame().transform(point)));
     expectNear(point, inclinedFrame().transform(inclinedFrame().transformBack(point)));
+}
+
+TEST(KzMatrix44, AnyFrameOfUnitAxesTakesPointsThereAndBack) {
+    std::mt19937 random(44);
+    std::uniform_real_distribution<double> number(-100.0, 100.0);
+    const auto some = [&] { return KzVector3D(number(random), number(random), number(random)); };
+    for (int i = 0; i < 100; ++i) {
+        SCOPED_TRACE(i);
+        const KzVector3D z = some().normalize();
+        const KzVector3D x = some().crossProduct(z).normalize();
+        const KzVector3D y = i % 2 ? z.crossProduct(x) : x.crossProduct(z);  // of either hand
+        const KzMatrix44 matrix = frame(x, y, z, some());
+        const KzVector3D point = some();
+        const KzVector3D local = matrix.transform(point);
+        expectNear(point, matrix.transformBack(local), 1e-10);
+        EXPECT_NEAR((point - matrix.getVector(3)).dotProduct(z), local.getZ(), 1e-10);
+        double t = 0.0;
+        ASSERT_TRUE(matrix.cutWithLine(point, z, t));
+        EXPECT_NEAR(-local.getZ(), t, 1e-10);
+    }
 }
 
 TEST(KzMatrix44, TheLengthOfAxesDoesNotCount) {

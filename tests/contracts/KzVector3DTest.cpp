@@ -89,6 +89,15 @@ TEST(KzVector3D, IsCollinearWithinATolerancedSine) {
     EXPECT_FALSE(x.isCollinear(inclined(0.0101), 0.01));
 }
 
+TEST(KzVector3D, ASineOfExactlyTheToleranceIsCollinear) {
+    const KzVector3D x(2.0, 0.0, 0.0);
+    const KzVector3D y(0.0, 3.0, 0.0);
+    EXPECT_TRUE(x.isCollinear(y, 1.0));
+    EXPECT_FALSE(x.isCollinear(y, std::nextafter(1.0, 0.0)));
+    EXPECT_TRUE(x.isCollinear(-x, 0.0));
+    EXPECT_FALSE(KzVector3D(nan, 0.0, 0.0).isCollinear(x));
+}
+
 TEST(KzVector3D, ANullVectorIsCollinearWithEverything) {
     const KzVector3D some(1.0, 2.0, 3.0);
     EXPECT_TRUE(some.isCollinear(KzVector3D()));

@@ -6,9 +6,13 @@
 #include <limits>
 #include <memory>
 #include <random>
+#include <type_traits>
 
 #include "varnel/contracts/KzXmlDataUtil.h"
 #include "varnel/contracts/KzXmlTree.h"
+
+static_assert(std::has_virtual_destructor<KzXmlData>::value, "hosts derive elements");
+static_assert(std::has_virtual_destructor<KzXmlTree>::value, "hosts derive documents");
 
 TEST(KzXmlData, KnowsItsParentWithoutBeingItsChild) {
     KzXmlData root("R", nullptr);
@@ -201,6 +205,36 @@ TEST(KzXmlDataUtil, ReadsValuesAndKeepsTheDefaultWithoutThem) {
     EXPECT_EQ(KzXmlDataUtil::getAttributeString(&data, "D"), "1.25");
     EXPECT_EQ(KzXmlDataUtil::getAttributeString(&data, "NONE"), "");
     EXPECT_EQ(KzXmlDataUtil::getAttributeString(nullptr, "D"), "");
+}
+
+TEST(KzXmlDataUtil, ReadsIntegersFlagsAndTexts) {
+    KzXmlData data("A", nullptr);
+    data.setAttribute("N", " -7.9 ");
+    data.setAttribute("YES", 2);
+    data.setAttribute("WORD", "true");
+    int number = 5;
+    bool flag = false;
+    std::string text = "default";
+    EXPECT_TRUE(KzXmlDataUtil::readValToAttribute(&data, "N", number));
+    EXPECT_EQ(number, -7);
+    EXPECT_FALSE(KzXmlDataUtil::readValToAttribute(&data, "NONE", number));
+    EXPECT_EQ(number, -7);
+    EXPECT_TRUE(KzXmlDataUtil::readValToAttribute(&data, "YES", flag));
+    EXPECT_TRUE(flag);
+    EXPECT_TRUE(KzXmlDataUtil::readValToAttribute(&data, "WORD", flag));
+    EXPECT_FALSE(flag);  // a flag is a number
+    EXPECT_FALSE(KzXmlDataUtil::readValToAttribute(&data, "NONE", text));
+    EXPECT_EQ(text, "default");
+    EXPECT_TRUE(KzXmlDataUtil::readValToAttribute(&data, "N", text));
+    EXPECT_EQ(text, " -7.9 ");
+    double real = 3.0;
+    EXPECT_FALSE(KzXmlDataUtil::readValToAttribute(nullptr, "N", real));
+    EXPECT_FALSE(KzXmlDataUtil::readValToAttribute(nullptr, "N", flag));
+    EXPECT_FALSE(KzXmlDataUtil::readValToAttribute(nullptr, "N", number));
+    EXPECT_FALSE(KzXmlDataUtil::readValToAttribute(nullptr, "N", text));
+    EXPECT_FALSE(KzXmlDataUtil::readValToChild(nullptr, "N", real));
+    EXPECT_EQ(KzXmlDataUtil::getChildInt(nullptr, "N"), 0);
+    EXPECT_EQ(real, 3.0);
 }
 
 TEST(KzXmlDataUtil, KeyedOpenFindsOrMakesAChildWithExactlyThatAttribute) {

@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <type_traits>
+#include <utility>
 
 #include "tests/support/VirtualSlot.h"
 #include "varnel/contracts/SysBase/Loadcase.h"
@@ -8,6 +10,11 @@
 
 using SysBase::Loadcase;
 using SysBase::LoadcaseData;
+
+static_assert(std::has_virtual_destructor<Loadcase>::value, "deleted through its base");
+static_assert(
+    std::is_same<decltype(std::declval<const Loadcase &>() == std::declval<const Loadcase &>()), int>::value,
+    "1 or 0");
 
 TEST(Loadcase, BeginsAsAnUnusedPrimaryDeadCaseWithoutName) {
     const Loadcase loadcase(7);

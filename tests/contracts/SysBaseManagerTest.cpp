@@ -164,6 +164,14 @@ TEST(Manager, SetsTheLoadFlag) {
     EXPECT_FALSE(manager.hasLoadChanged());
 }
 
+TEST(Manager, ALoadChangeStaysWhenTheChangedCaseGoes) {
+    Manager manager;
+    Loadcase *loadcase = manager.giveLoadcaseToNumber(1, true);
+    loadcase->setPrimary(false);
+    manager.removeLoadcase(loadcase, true);
+    EXPECT_TRUE(manager.hasLoadChanged());
+}
+
 TEST(Manager, HandsARemovedCaseToTheCallerOrDeletesIt) {
     CountingManager manager;
     const int before = CountedCase::alive;

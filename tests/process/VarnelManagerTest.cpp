@@ -11,6 +11,7 @@
 #include "varnel/contracts/KzConcrete.h"
 #include "varnel/contracts/KzMaterialHandler.h"
 #include "varnel/contracts/KzMaterialManager.h"
+#include "varnel/contracts/KzReinfMeshHandler.h"
 #include "varnel/contracts/KzReinfMeshList.h"
 #include "varnel/contracts/KzReinfStockMesh.h"
 #include "varnel/contracts/SDBSectionLine.h"
@@ -282,8 +283,21 @@ TEST_F(VarnelManagerTest, StockMeshIsClonedOnceIntoTheProject) {
     ASSERT_NE(mesh, nullptr);
     EXPECT_EQ(manager.getStockMesh("Q335A"), mesh);
     EXPECT_EQ(manager.getDgnMeshList()->findMesh("Q335A"), mesh);
+    EXPECT_EQ(manager.getDgnMeshList()->getMeshes().size(), 1U);
+    EXPECT_NE(mesh, KzReinfMeshHandler::get()->findMeshToName("Q335A"));
     EXPECT_EQ(manager.getStockMesh("unknown"), nullptr);
     EXPECT_EQ(manager.getStockMesh(""), nullptr);
+}
+
+TEST_F(VarnelManagerTest, AnEmptyMeshNameNeverReachesTheStock) {
+    KzReinfStockMesh *stock = KzReinfMeshHandler::get()->findMeshToName("Q188A");
+    stock->setName("");
+    EXPECT_EQ(manager.getStockMesh(""), nullptr);
+    stock->setName("Q188A");
+    EXPECT_TRUE(manager.getDgnMeshList()->getMeshes().empty());
+    auto *own = new KzReinfStockMesh("", 1.0, 1.0);
+    manager.getDgnMeshList()->addMesh(own);
+    EXPECT_EQ(manager.getStockMesh(""), own);
 }
 
 TEST_F(VarnelManagerTest, FoundationsAddTheDisplacementToThePattern) {
