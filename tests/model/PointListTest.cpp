@@ -20,6 +20,12 @@ VarnelPoint *walk(const std::list<VarnelPoint *> &points, const KzVector3D &plac
     return nullptr;
 }
 
+VarnelPoint *walk(const std::list<VarnelPoint *> &points, int number) {
+    for (VarnelPoint *point : points)
+        if (point->getNumber() == number) return point;
+    return nullptr;
+}
+
 /// More points than are walked: at (0, 0, 0), (1, 0, 0) and so on.
 void fill(PointList &points, int count = 40) {
     for (int i = 0; i < count; ++i) points.give(KzVector3D(i, 0.0, 0.0));
@@ -84,6 +90,25 @@ TEST(PointList, SharesItsPointsWithACopy) {
     EXPECT_TRUE(copied.list().empty());
 }
 
+TEST(PointList, FindsByNumberThroughEveryChange) {
+    PointList points;
+    fill(points);
+    VarnelPoint *seventh = points.findToNumber(7);
+    ASSERT_NE(seventh, nullptr);
+    EXPECT_EQ(seventh->getNumber(), 7);
+    seventh->setNumber(700);
+    EXPECT_EQ(points.findToNumber(7), nullptr);
+    EXPECT_EQ(points.findToNumber(700), seventh);
+    points.findToNumber(3)->setNumber(700);
+    EXPECT_EQ(points.findToNumber(700)->getCoor(), KzVector3D(2.0, 0.0, 0.0)) << "the first in the list";
+    VarnelPoint *last = points.give(KzVector3D(0.0, 50.0, 0.0));
+    EXPECT_EQ(points.findToNumber(41), last);
+    seventh->setCoor(KzVector3D(0.0, 0.0, 7.0));
+    EXPECT_EQ(points.findToNumber(8)->getNumber(), 8);
+    points.clear();
+    EXPECT_EQ(points.findToNumber(8), nullptr);
+}
+
 TEST(PointList, AnswersAsAPlainWalkDoes) {
     std::mt19937 random(3);
     PointList points;
@@ -113,5 +138,11 @@ TEST(PointList, AnswersAsAPlainWalkDoes) {
             ASSERT_EQ(points.find(where), expected);
             ASSERT_EQ(copied.find(where), walk(copied.list(), where));
         }
+        if (random() % 4 != 0) continue;
+        const int number = static_cast<int>(random() % 300);
+        ASSERT_EQ(points.findToNumber(number), walk(points.list(), number));
+        ASSERT_EQ(copied.findToNumber(number), walk(copied.list(), number));
+        if (VarnelPoint *point = points.findToNumber(number))
+            if (random() % 10 == 0) point->setNumber(static_cast<int>(random() % 300));
     }
 }

@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <list>
 #include <memory>
+#include <random>
 #include <string>
 
 #include "tests/support/VirtualSlot.h"
@@ -102,6 +105,48 @@ TEST(VarnelSubSystem, FindsDirectChildrenOnly) {
     EXPECT_EQ(root.getChildren().size(), 2U);
 }
 
+TEST(VarnelSubSystem, FindsAmongManyChildrenAsAPlainWalkDoes) {
+    const VarnelFactory factory;
+    VarnelSubSystem node("top", &factory, nullptr);
+    std::list<VarnelSubSystem *> plain;
+    const auto walk = [&plain](const std::string &name) {
+        const auto found = std::find_if(plain.begin(), plain.end(),
+                                        [&name](VarnelSubSystem *child) { return child->getName() == name; });
+        return found == plain.end() ? nullptr : *found;
+    };
+    std::mt19937 random(5);
+    std::list<std::unique_ptr<VarnelSubSystem>> removed;
+    for (int step = 0; step < 20000; ++step) {
+        const std::string name(random() % 7, "ab"[random() % 2]);
+        VarnelSubSystem *child = walk(name);
+        switch (plain.size() < 40 ? 0 : random() % 12) {
+            case 0:  // now and then a node without a model, whose name stays empty
+                child = new VarnelSubSystem(name, random() % 40 ? &factory : nullptr, &node);
+                node.addChild(child);
+                plain.push_back(child);
+                break;
+            case 1:
+                if (!child || plain.size() < 45) break;
+                EXPECT_EQ(node.removeChild(child, false), 1);
+                plain.remove(child);
+                removed.emplace_back(child);
+                break;
+            case 2:
+                if (child) child->setName(name + "a");
+                break;
+            case 3:
+                if (child && child->getDatabase()) child->getDatabase()->setDescription("b");
+                break;
+            case 4:
+                if (child && random() % 200 == 0) *child = *plain.back();  // has the model of another one now
+                break;
+            default:
+                ASSERT_EQ(node.findChild(name, false), child) << name;
+        }
+    }
+    EXPECT_EQ(node.getChildren(), plain);
+}
+
 TEST(VarnelSubSystem, RemovingDetaches) {
     const VarnelFactory factory;
     VarnelSubSystem root("root", &factory, nullptr);
@@ -183,6 +228,20 @@ TEST(VarnelSubSystem, StagesAreGivenToNumbers) {
     EXPECT_EQ(node.findConstructionStageToNumber(99), nullptr);
     const std::unique_ptr<SysBase::ConstructionStage> plain(node.giveConstructionStage());
     EXPECT_EQ(node.getConstructionStages().size(), 5U);
+}
+
+TEST(VarnelSubSystem, FindsAStageByTheNumberThatItHasNow) {
+    const VarnelFactory factory;
+    VarnelSubSystem node("top", &factory, nullptr);
+    for (int number = 1; number <= 40; ++number) node.giveConstructionStageToNumber(number);
+    SysBase::ConstructionStage *stage = node.findConstructionStageToNumber(30);
+    stage->setNumber(300);
+    EXPECT_EQ(node.findConstructionStageToNumber(30), nullptr);
+    EXPECT_EQ(node.findConstructionStageToNumber(300), stage);
+    EXPECT_EQ(node.giveConstructionStageToNumber(0)->getNumber(), 41);
+    node.remove(stage, true);
+    EXPECT_EQ(node.findConstructionStageToNumber(300), nullptr);
+    delete stage;
 }
 
 TEST(VarnelSubSystem, ARemovedStagePassesToTheCaller) {

@@ -18,8 +18,8 @@ class KzPreStressSteel;
 class KzReinfSteel;
 
 /// The predefined materials of the process; empty until setDatabase is called. All of them are owned here and
-/// shared by all projects, which may live on different threads. Hosts rely on the order of the look-ups: materials are number 0, concretes
-/// number 4.
+/// shared by all projects, which may live on different threads. Hosts rely on the order of the look-ups:
+/// materials are number 0, concretes number 4.
 class VARNEL_EXPORT KzMaterialHandler {
   public:
     static KzMaterialHandler *get();

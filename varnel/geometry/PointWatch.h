@@ -5,8 +5,8 @@ class VarnelPoint;
 
 namespace varnel {
 
-/// Told by each point under watch when it moves, so that a table of places is known to be out of date. A
-/// point has at most one watch, which outlives the watching; copies of a point have none.
+/// Told by each point under watch when it moves or gets another number, so that tables are known to be out of
+/// date. A point has at most one watch, which outlives the watching; copies of a point have none.
 class PointWatch {
   public:
     PointWatch() = default;
@@ -20,10 +20,14 @@ class PointWatch {
 
     bool hasMoved() const { return moved_; }
     void pointMoved() { moved_ = true; }
-    void reset() { moved_ = false; }
+    bool hasNewNumbers() const { return newNumbers_; }
+    void pointNumbered() { newNumbers_ = true; }
+    void forgetNumbers() { newNumbers_ = false; }
+    void reset() { moved_ = newNumbers_ = false; }
 
   private:
     bool moved_ = false;
+    bool newNumbers_ = false;
 };
 
 }  // namespace varnel

@@ -29,7 +29,10 @@ class VARNEL_EXPORT VarnelPoint : public VarnelObject, public varnel::Shared {
     }
     int getNumber() const noexcept { return number_; }
     /// The number is no part of the geometry: it is given to const points too and marks no change.
-    void setNumber(int number) const noexcept { number_ = number; }
+    void setNumber(int number) const noexcept {
+        if (watch_ && number_ != number) watch_->pointNumbered();
+        number_ = number;
+    }
     /// A new point at the same place; owned by the caller.
     VarnelPoint *clone() const { return new VarnelPoint(*this); }
 

@@ -34,6 +34,8 @@ class VARNEL_EXPORT VarnelLineBoundary : public VarnelObject {
     void setName(const std::string &name) { data_.setName(name); }
     int getNumber() const { return data_.getNumber(); }
     void setNumber(int number) { data_.setNumber(number); }
+    /// For the list that finds this support by its number.
+    const varnel::IndexedKey<int> &indexedNumber() const { return data_.indexedNumber(); }
     /// Setting marks a change.
     bool getLocal() const { return data_.getLocal(); }
     void setLocal(bool local);

@@ -56,6 +56,20 @@ VarnelPoint *PointList::give(const KzVector3D &coordinates) {
     return point;
 }
 
+VarnelPoint *PointList::findToNumber(int number) const {
+    if (!tabulate()) {
+        for (VarnelPoint *point : points_)
+            if (point->getNumber() == number) return point;
+        return nullptr;
+    }
+    if (watch_.hasNewNumbers()) numbers_.clear();
+    watch_.forgetNumbers();
+    if (numbers_.empty())
+        for (VarnelPoint *point : points_) numbers_.emplace(point->getNumber(), point);
+    const auto found = numbers_.find(number);
+    return found == numbers_.end() ? nullptr : found->second;
+}
+
 VarnelPoint *PointList::append(const KzVector3D &coordinates) {
     auto point = std::make_unique<VarnelPoint>(coordinates);
     const std::size_t number = points_.size() + 1;
@@ -63,6 +77,7 @@ VarnelPoint *PointList::append(const KzVector3D &coordinates) {
     point->setNumber(number < static_cast<std::size_t>(highest) ? static_cast<int>(number) : highest);
     points_.push_back(point.get());
     acquire(point.get());
+    if (!numbers_.empty()) numbers_.emplace(point->getNumber(), point.get());
     return point.release();
 }
 
@@ -88,6 +103,7 @@ void PointList::forgetTable() const {
     for (const VarnelPoint *point : points_) watch_.unwatch(*point);
     watch_.reset();
     table_ = std::vector<Slot>();
+    numbers_.clear();
     used_ = 0;
 }
 

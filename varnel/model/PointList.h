@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <list>
+#include <unordered_map>
 #include <vector>
 
 #include "varnel/contracts/Export.h"
@@ -13,8 +14,9 @@ class VarnelPoint;
 
 namespace varnel {
 
-/// The system points of a model, shared with its views, found by their exact coordinates. A table answers; it
-/// is made anew after a listed point was moved. A list whose points another list watches is walked instead.
+/// The system points of a model, shared with its views, found by their exact coordinates and by number.
+/// Tables answer; they are made anew after a listed point was moved or got another number. A list whose
+/// points another list watches is walked instead.
 class VARNEL_EXPORT PointList {
   public:
     PointList() = default;
@@ -32,6 +34,8 @@ class VARNEL_EXPORT PointList {
     VarnelPoint *find(const KzVector3D &coordinates) const;
     /// The same; if there is none, a new point with the next number, at the end of the list.
     VarnelPoint *give(const KzVector3D &coordinates);
+    /// The first point in the list with this number, or null.
+    VarnelPoint *findToNumber(int number) const;
 
   private:
     /// Open addressing; the table is a power of two long and at most two thirds full.
@@ -51,6 +55,7 @@ class VARNEL_EXPORT PointList {
     std::list<VarnelPoint *> points_;
     mutable std::vector<Slot> table_;  // empty while there is none
     mutable std::size_t used_ = 0;
+    mutable std::unordered_map<int, VarnelPoint *> numbers_;  // empty while nobody asks
     mutable PointWatch watch_;
     mutable bool tabulable_ = true;
     std::size_t expected_ = 0;

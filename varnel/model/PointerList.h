@@ -63,6 +63,14 @@ class PointerList {
         places_.erase(first, last);
         return erased;
     }
+    /// Takes out the first entry that is this very object; false if there is none.
+    bool eraseFirst(const T *object) {
+        const auto place = std::find(list_.begin(), list_.end(), object);
+        if (place == list_.end()) return false;
+        places_.clear();
+        list_.erase(place);
+        return true;
+    }
     /// Takes out all entries that the predicate accepts, in one pass.
     template <class Predicate>
     std::size_t eraseIf(Predicate predicate) {

@@ -29,15 +29,6 @@
 #include "varnel/process/VarnelDatabaseFactory.h"
 #include "varnel/results/VarnelResultSection.h"
 
-namespace varnel {
-
-template <>
-const VarnelPosition &numbered(const VarnelLineBoundary &boundary) {
-    return boundary.getData();
-}
-
-}  // namespace varnel
-
 namespace {
 
 /// Plates are asked through a list of non-const pointers: their const getChanged() knows the outline only.

@@ -10,7 +10,7 @@
 #include "varnel/contracts/Export.h"
 #include "varnel/contracts/KzVector3D.h"
 #include "varnel/model/DesignDataIndex.h"
-#include "varnel/model/NumberedList.h"
+#include "varnel/model/KeyedList.h"
 #include "varnel/model/PointList.h"
 #include "varnel/model/PointerList.h"
 
@@ -84,9 +84,11 @@ class VARNEL_EXPORT Varnel {
 
     VarnelDatabaseFactory *getDBaseFactory() const { return dBaseFactory_.get(); }
     /// Also the name of the subsystem. A null pointer counts as "".
-    const std::string &getDescription() const { return description_; }
-    void setDescription(const std::string &description) { description_ = description; }
-    void setDescription(const char *description) { description_ = description ? description : ""; }
+    const std::string &getDescription() const { return description_.get(); }
+    void setDescription(const std::string &description) { description_.set(description); }
+    void setDescription(const char *description) { description_.set(description ? description : ""); }
+    /// For the list that finds a subsystem by its name.
+    const varnel::IndexedKey<std::string> &indexedDescription() const { return description_; }
     SystemMode getSystemMode() const { return systemMode_; }
     void setSystemMode(SystemMode mode) { systemMode_ = mode; }
     void setSystemMode(int mode) { systemMode_ = static_cast<SystemMode>(mode); }
@@ -419,7 +421,7 @@ class VARNEL_EXPORT Varnel {
     bool systemChanged_ = false;
     std::shared_ptr<VarnelDatabaseFactory> dBaseFactory_;
     std::map<std::string, VarnelPlate *> plateNames_;
-    std::string description_;
+    varnel::IndexedKey<std::string> description_;
     double modelFactor_ = 1.0;
     SystemMode systemMode_ = static_cast<SystemMode>(0);
     SystemStatus currentStatus_ = NothingDone;
@@ -444,7 +446,7 @@ class VARNEL_EXPORT Varnel {
     varnel::PointerList<VarnelRefinePolygon> refinePolygons_;
     varnel::NumberedList<VarnelAttributeArea> attributeAreas_;
     varnel::PointerList<VarnelResultSection> resultSections_;
-    varnel::PointerList<VarnelObjectGroup> objectGroups_;
+    varnel::NamedObjects<VarnelObjectGroup> objectGroups_;
     VarnelManager *manager_;
     std::vector<SDBSection *> generatedSections_;
     std::vector<std::list<VarnelLineBoundaryData *>::iterator>

@@ -185,7 +185,7 @@ VarnelPointBoundary *Varnel::findPointBoundaryToName(const std::string &name) co
 }
 
 VarnelObjectGroup *Varnel::findObjectGroupToName(const std::string &name) const {
-    return findName(objectGroups_.list(), name);
+    return objectGroups_.find(name);
 }
 
 VarnelLineBoundaryData *Varnel::findLineBoundaryToName(const std::string &name) const {
@@ -209,48 +209,47 @@ VarnelBeamLoad *Varnel::findBeamLoadToName(const std::string &name, bool dead) c
 }
 
 VarnelPoint *Varnel::findPointToNumber(int number) const {
-    return findFirst(points_.list(),
-                     [number](const VarnelPoint &point) { return point.getNumber() == number; });
+    return points_.findToNumber(number);
 }
 
 VarnelPlate *Varnel::findPlateToNumber(int number) const {
-    return plates_.findToNumber(number);
+    return plates_.find(number);
 }
 
 VarnelBeam *Varnel::findBeamToNumber(int number) const {
-    return beams_.findToNumber(number);
+    return beams_.find(number);
 }
 
 VarnelAttributeArea *Varnel::findAttributeAreaToNumber(int number) const {
-    return attributeAreas_.findToNumber(number);
+    return attributeAreas_.find(number);
 }
 
 VarnelPointBoundary *Varnel::findPointBoundaryToNumber(int number) const {
-    return pointBoundaries_.findToNumber(number);
+    return pointBoundaries_.find(number);
 }
 
 VarnelPointLoad *Varnel::findPointLoadToNumber(int number) const {
-    return pointLoads_.findToNumber(number);
+    return pointLoads_.find(number);
 }
 
 VarnelLineLoad *Varnel::findLineLoadToNumber(int number) const {
-    return lineLoads_.findToNumber(number);
+    return lineLoads_.find(number);
 }
 
 VarnelAreaLoad *Varnel::findAreaLoadToNumber(int number) const {
-    return areaLoads_.findToNumber(number);
+    return areaLoads_.find(number);
 }
 
 VarnelBeamLoad *Varnel::findBeamLoadToNumber(int number) const {
-    return beamLoads_.findToNumber(number);
+    return beamLoads_.find(number);
 }
 
 VarnelHole *Varnel::findHoleToNumber(int number) const {
-    return holes_.findToNumber(number);
+    return holes_.find(number);
 }
 
 VarnelLineBoundary *Varnel::findLineBoundaryToNumber(int number) const {
-    return lineBoundaries_.findToNumber(number);
+    return lineBoundaries_.find(number);
 }
 
 VarnelPoint *Varnel::findPoint(const KzVector3D &coordinates) const {

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "varnel/contracts/Export.h"
+#include "varnel/contracts/KeyIndex.h"
 #include "varnel/contracts/KzMatrix44.h"
 #include "varnel/contracts/KzVector3D.h"
 #include "varnel/contracts/Shared.h"
@@ -25,8 +26,10 @@ class VARNEL_EXPORT VarnelObjectGroup {
     VarnelObjectGroup(const VarnelObjectGroup &other);
     VarnelObjectGroup &operator=(const VarnelObjectGroup &other);
 
-    const std::string &getName() const { return name_; }
-    void setName(const std::string &name) { name_ = name; }
+    const std::string &getName() const { return name_.get(); }
+    void setName(const std::string &name) { name_.set(name); }
+    /// For the list that finds this group by its name.
+    const varnel::IndexedKey<std::string> *indexedName() const { return &name_; }
     /// Made by the user rather than by a program; stored for the host, as is the next one.
     bool getUserDefined() const { return userDefined_; }
     void setUserDefined(bool userDefined) { userDefined_ = userDefined; }
@@ -67,7 +70,7 @@ class VARNEL_EXPORT VarnelObjectGroup {
   private:
     using State = varnel::Held<VarnelObjectGroupResultState>;
 
-    std::string name_;
+    varnel::IndexedKey<std::string> name_;
     bool changed_ = false;
     bool userDefined_ = true;
     bool calculate_ = true;

@@ -32,6 +32,7 @@ VarnelSubSystem::VarnelSubSystem(const VarnelSubSystem &other)
 
 VarnelSubSystem &VarnelSubSystem::operator=(const VarnelSubSystem &other) {
     if (this == &other) return *this;
+    if (database_) database_->indexedDescription().spoilIndex();  // the name is another model's from now on
     if (!view_) {
         former_ = std::make_unique<VarnelSubSystem>(std::string(), nullptr, nullptr);
         former_->constructionStages_.swap(constructionStages_);
@@ -57,30 +58,36 @@ VarnelSubSystem::~VarnelSubSystem() {
 /// The children first lose their models, then their own children, then die, so that a deep tree is taken down
 /// without a call stack as deep as itself.
 void VarnelSubSystem::deleteChildren() {
-    std::vector<VarnelSubSystem *> path{this};
+    struct Level {
+        VarnelSubSystem *node;
+        std::list<VarnelSubSystem *> children;
+    };
+    std::vector<Level> path;
+    path.push_back({this, children_.take()});
     while (!path.empty()) {
-        VarnelSubSystem *node = path.back();
-        if (node->children_.empty()) {
-            path.pop_back();
+        auto &[node, children] = path.back();
+        if (children.empty()) {
             if (node != this) delete node;
+            path.pop_back();
             continue;
         }
-        VarnelSubSystem *child = node->children_.front();
-        node->children_.pop_front();
+        VarnelSubSystem *child = children.front();
+        children.pop_front();
         if (!child) continue;
         if (child->view_ || typeid(*child) != typeid(VarnelSubSystem)) {
             delete child;  // a derived class may want its model in its own destructor
             continue;
         }
         delete std::exchange(child->database_, nullptr);
-        path.push_back(child);
+        path.push_back({child, child->children_.take()});
     }
 }
 
 void VarnelSubSystem::deleteStages() {
-    for (SysBase::ConstructionStage *stage : constructionStages_)
+    std::list<SysBase::ConstructionStage *> stages = constructionStages_.take();
+    for (SysBase::ConstructionStage *stage : stages)
         if (auto *withStates = dynamic_cast<VarnelConstructionStage *>(stage)) withStates->removeStates();
-    varnel::deleteAll(constructionStages_);
+    varnel::deleteAll(stages);
 }
 
 const std::string &VarnelSubSystem::getName() const {
@@ -92,6 +99,10 @@ void VarnelSubSystem::setName(const std::string &name) {
     if (database_) database_->setDescription(name);
 }
 
+const varnel::IndexedKey<std::string> *VarnelSubSystem::indexedName() const {
+    return database_ ? &database_->indexedDescription() : nullptr;
+}
+
 VarnelSubSystem *VarnelSubSystem::clone(const VarnelFactory *factory) const {
     auto node = std::make_unique<VarnelSubSystem>(getName(), factory, parent_);
     if (node->database_ && database_) node->database_->copy(*database_);
@@ -99,10 +110,7 @@ VarnelSubSystem *VarnelSubSystem::clone(const VarnelFactory *factory) const {
 }
 
 VarnelSubSystem *VarnelSubSystem::findChild(const std::string &name, bool) const {
-    const auto child = std::find_if(children_.begin(), children_.end(), [&name](const VarnelSubSystem *node) {
-        return node && node->getName() == name;
-    });
-    return child == children_.end() ? nullptr : *child;
+    return children_.find(name);
 }
 
 VarnelSubSystem *VarnelSubSystem::giveChild(const std::string &name, bool recursive, VarnelFactory *factory,
@@ -112,27 +120,24 @@ VarnelSubSystem *VarnelSubSystem::giveChild(const std::string &name, bool recurs
 }
 
 void VarnelSubSystem::addChild(VarnelSubSystem *child) {
-    children_.push_back(child);
+    children_.append(child);
 }
 
 int VarnelSubSystem::removeChild(VarnelSubSystem *child, bool recursive) {
     struct Level {
         VarnelSubSystem *node;
-        std::list<VarnelSubSystem *>::iterator next;
+        std::list<VarnelSubSystem *>::const_iterator next;
     };
-    std::vector<Level> path{{this, children_.begin()}};
+    std::vector<Level> path{{this, getChildren().begin()}};
     while (!path.empty()) {
         auto &[node, next] = path.back();
-        if (next == node->children_.end()) {
+        if (next == node->getChildren().end()) {
             path.pop_back();
             continue;
         }
-        const auto place = next++;
-        if (*place == child) {
-            node->children_.erase(place);
-            return 1;
-        }
-        if (recursive && *place) path.push_back({*place, (*place)->children_.begin()});
+        VarnelSubSystem *entry = *next++;
+        if (entry == child) return node->children_.eraseFirst(child);
+        if (recursive && entry) path.push_back({entry, entry->getChildren().begin()});
     }
     return 0;
 }
@@ -144,7 +149,8 @@ bool VarnelSubSystem::contains(const VarnelObject *object, bool recursive) const
         waiting.pop_back();
         if (!node) continue;
         if (node->database_ && node->database_->contains(object)) return true;
-        if (recursive) waiting.insert(waiting.end(), node->children_.rbegin(), node->children_.rend());
+        if (recursive)
+            waiting.insert(waiting.end(), node->getChildren().rbegin(), node->getChildren().rend());
     }
     return false;
 }
@@ -159,24 +165,22 @@ void VarnelSubSystem::updateMinMax(KzVector3D &min, KzVector3D &max, const KzMat
         const auto [node, place] = waiting.back();
         waiting.pop_back();
         if (node->database_) node->database_->updateMinMax(&min, &max, place);
-        for (auto child = node->children_.rbegin(); child != node->children_.rend(); ++child)
+        const auto &children = node->getChildren();
+        for (auto child = children.rbegin(); child != children.rend(); ++child)
             if (*child) waiting.push_back({*child, place * (*child)->base_});
     }
 }
 
 void VarnelSubSystem::add(SysBase::ConstructionStage *stage) {
-    constructionStages_.push_back(stage);
+    constructionStages_.append(stage);
 }
 
 void VarnelSubSystem::remove(SysBase::ConstructionStage *stage, bool) {
-    constructionStages_.remove(stage);
+    constructionStages_.erase(stage);
 }
 
 SysBase::ConstructionStage *VarnelSubSystem::findConstructionStageToNumber(int number) {
-    const auto found =
-        std::find_if(constructionStages_.begin(), constructionStages_.end(),
-                     [number](const auto *stage) { return stage && stage->getNumber() == number; });
-    return found == constructionStages_.end() ? nullptr : *found;
+    return constructionStages_.find(number);
 }
 
 SysBase::ConstructionStage *VarnelSubSystem::giveConstructionStage() {
@@ -190,7 +194,7 @@ SysBase::ConstructionStage *VarnelSubSystem::giveConstructionStageToNumber(int n
     SysBase::ConstructionStage *stage = giveConstructionStage();
     constexpr auto highest = static_cast<std::size_t>(std::numeric_limits<int>::max());
     stage->setNumber(number > 0 ? number
-                                : static_cast<int>(std::min(constructionStages_.size() + 1, highest)));
+                                : static_cast<int>(std::min(getConstructionStages().size() + 1, highest)));
     add(stage);
     return stage;
 }

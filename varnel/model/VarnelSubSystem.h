@@ -8,6 +8,7 @@
 #include "varnel/contracts/Export.h"
 #include "varnel/contracts/KzMatrix44.h"
 #include "varnel/contracts/KzVector3D.h"
+#include "varnel/model/KeyedList.h"
 
 class Varnel;
 class VarnelFactory;
@@ -34,13 +35,15 @@ class VARNEL_EXPORT VarnelSubSystem {
     KzVector3D getOffset() const { return base_.getVector(3); }
     void setOffset(const KzVector3D &offset) { base_.setVector(3, offset); }
     const std::list<SysBase::ConstructionStage *> &getConstructionStages() const {
-        return constructionStages_;
+        return constructionStages_.list();
     }
     Varnel *getDatabase() const { return database_; }
-    const std::list<VarnelSubSystem *> &getChildren() const { return children_; }
+    const std::list<VarnelSubSystem *> &getChildren() const { return children_.list(); }
 
     const std::string &getName() const;
     void setName(const std::string &name);
+    /// For the list that finds this node by its name; null without a model.
+    const varnel::IndexedKey<std::string> *indexedName() const;
 
     /// A new node of this name and parent with a deep copy of the model. Frame, stages and children are not
     /// cloned, and the parent's children stay as they are.
@@ -75,9 +78,9 @@ class VARNEL_EXPORT VarnelSubSystem {
     void deleteStages();
 
     KzMatrix44 base_;
-    std::list<SysBase::ConstructionStage *> constructionStages_;
+    varnel::NumberedList<SysBase::ConstructionStage> constructionStages_;
     Varnel *database_ = nullptr;
-    std::list<VarnelSubSystem *> children_;
+    varnel::NamedObjects<VarnelSubSystem> children_;
     VarnelSubSystem *parent_ = nullptr;
     bool view_ = false;
     std::unique_ptr<VarnelSubSystem> former_;  // what this node owned before it became a view

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "varnel/contracts/Export.h"
+#include "varnel/contracts/KeyIndex.h"
 #include "varnel/contracts/Shared.h"
 
 namespace SysBase {
@@ -16,13 +17,15 @@ class VARNEL_EXPORT ConstructionStage : public varnel::Shared {
     ConstructionStage &operator=(const ConstructionStage &) = default;
     virtual ~ConstructionStage() = default;
 
-    int getNumber() const { return number_; }
-    void setNumber(int number) { number_ = number; }
+    int getNumber() const { return number_.get(); }
+    void setNumber(int number) { number_.set(number); }
+    /// For the list that finds this stage by its number.
+    const varnel::IndexedKey<int> &indexedNumber() const { return number_; }
     const std::string &getName() const { return name_; }
     void setName(const std::string &name) { name_ = name; }
 
   private:
-    int number_ = 0;
+    varnel::IndexedKey<int> number_;
     std::string name_;
 };
 

@@ -1,4 +1,4 @@
-#include "varnel/model/NumberedList.h"
+#include "varnel/model/KeyedList.h"
 
 #include <gtest/gtest.h>
 
@@ -8,6 +8,9 @@
 #include <random>
 #include <string>
 #include <vector>
+
+#include "varnel/geometry/VarnelPosition.h"
+#include "varnel/model/VarnelObjectGroup.h"
 
 using varnel::NumberedList;
 
@@ -51,28 +54,28 @@ int walkToNext(const std::list<Numbered *> &list) {
 TEST(NumberedList, FollowsNumbersThatAreSetOnTheObjects) {
     NumberedList<Numbered> list;
     const auto objects = fill(list);
-    EXPECT_EQ(list.findToNumber(7), objects[6].get());
+    EXPECT_EQ(list.find(7), objects[6].get());
     objects[6]->setNumber(700);
-    EXPECT_EQ(list.findToNumber(7), nullptr);
-    EXPECT_EQ(list.findToNumber(700), objects[6].get());
+    EXPECT_EQ(list.find(7), nullptr);
+    EXPECT_EQ(list.find(700), objects[6].get());
     EXPECT_EQ(list.nextNumber(), 701);
     const Numbered other(9);
     *objects[6] = other;
-    EXPECT_EQ(list.findToNumber(700), nullptr);
-    EXPECT_EQ(list.findToNumber(9), objects[6].get()) << "it stands before the other 9";
+    EXPECT_EQ(list.find(700), nullptr);
+    EXPECT_EQ(list.find(9), objects[6].get()) << "it stands before the other 9";
     EXPECT_EQ(list.nextNumber(), 51);
 }
 
 TEST(NumberedList, FindsTheFirstOfSeveralWithOneNumber) {
     NumberedList<Numbered> list;
     const auto objects = fill(list);
-    EXPECT_EQ(list.findToNumber(40), objects[39].get());
+    EXPECT_EQ(list.find(40), objects[39].get());
     objects[45]->setNumber(40);
-    EXPECT_EQ(list.findToNumber(40), objects[39].get());
+    EXPECT_EQ(list.find(40), objects[39].get());
     objects[2]->setNumber(40);
-    EXPECT_EQ(list.findToNumber(40), objects[2].get());
+    EXPECT_EQ(list.find(40), objects[2].get());
     list.erase(objects[2].get());
-    EXPECT_EQ(list.findToNumber(40), objects[39].get());
+    EXPECT_EQ(list.find(40), objects[39].get());
 }
 
 TEST(NumberedList, NextNumberIsAtLeastOneAndStaysAtTheLargest) {
@@ -93,8 +96,8 @@ TEST(NumberedList, CopiesOfAnObjectAreNotFound) {
     EXPECT_EQ(list.nextNumber(), 51);
     Numbered copied(*objects[3]);
     copied.setNumber(99);
-    EXPECT_EQ(list.findToNumber(99), nullptr);
-    EXPECT_EQ(list.findToNumber(4), objects[3].get());
+    EXPECT_EQ(list.find(99), nullptr);
+    EXPECT_EQ(list.find(4), objects[3].get());
 }
 
 TEST(NumberedList, AnObjectThatDiesLeavesTheNumbers) {
@@ -103,22 +106,22 @@ TEST(NumberedList, AnObjectThatDiesLeavesTheNumbers) {
     EXPECT_EQ(list.nextNumber(), 51);
     objects[49].reset();
     EXPECT_EQ(list.nextNumber(), 50);
-    EXPECT_EQ(list.findToNumber(50), nullptr);
+    EXPECT_EQ(list.find(50), nullptr);
     list.clear();
 }
 
 TEST(NumberedList, TwoListsThatShareObjectsAnswerIndependently) {
     NumberedList<Numbered> first;
     const auto objects = fill(first);
-    EXPECT_EQ(first.findToNumber(5), objects[4].get());
+    EXPECT_EQ(first.find(5), objects[4].get());
     NumberedList<Numbered> second(first);
-    EXPECT_EQ(second.findToNumber(5), objects[4].get());
+    EXPECT_EQ(second.find(5), objects[4].get());
     objects[4]->setNumber(500);
-    EXPECT_EQ(first.findToNumber(500), objects[4].get());
-    EXPECT_EQ(second.findToNumber(500), objects[4].get());
+    EXPECT_EQ(first.find(500), objects[4].get());
+    EXPECT_EQ(second.find(500), objects[4].get());
     first.erase(objects[4].get());
-    EXPECT_EQ(first.findToNumber(500), nullptr);
-    EXPECT_EQ(second.findToNumber(500), objects[4].get());
+    EXPECT_EQ(first.find(500), nullptr);
+    EXPECT_EQ(second.find(500), objects[4].get());
     EXPECT_EQ(second.nextNumber(), 501);
 }
 
@@ -127,10 +130,10 @@ TEST(NumberedList, AListThatHoldsAnObjectTwiceIsWalked) {
     const auto objects = fill(list);
     EXPECT_EQ(list.nextNumber(), 51);
     list.append(objects[0].get());
-    EXPECT_EQ(list.findToNumber(1), objects[0].get());
+    EXPECT_EQ(list.find(1), objects[0].get());
     list.erase(objects[0].get());
-    EXPECT_EQ(list.findToNumber(1), nullptr);
-    EXPECT_EQ(list.findToNumber(2), objects[1].get());
+    EXPECT_EQ(list.find(1), nullptr);
+    EXPECT_EQ(list.find(2), objects[1].get());
 }
 
 TEST(NumberedList, ObjectsOutliveTheList) {
@@ -150,7 +153,7 @@ TEST(NumberedList, NumbersAnewWithoutLosingAnybody) {
     EXPECT_EQ(list.nextNumber(), 1001);
     for (const auto &object : objects) object->setNumber(object->getNumber() + 5000);
     EXPECT_EQ(list.nextNumber(), 6001);
-    for (const auto &object : objects) EXPECT_EQ(list.findToNumber(object->getNumber()), object.get());
+    for (const auto &object : objects) EXPECT_EQ(list.find(object->getNumber()), object.get());
 }
 
 TEST(NumberedList, AnswersAsAPlainWalkDoes) {
@@ -186,7 +189,7 @@ TEST(NumberedList, AnswersAsAPlainWalkDoes) {
                 ASSERT_EQ(list.nextNumber(), walkToNext(plain));
                 break;
             case 6:
-                ASSERT_EQ(list.findToNumber(number), walk(plain, number));
+                ASSERT_EQ(list.find(number), walk(plain, number));
                 break;
             default:
                 if (random() % 2000 == 0) {
@@ -203,4 +206,26 @@ TEST(NumberedList, AnswersAsAPlainWalkDoes) {
         }
     }
     ASSERT_EQ(list.list(), plain);
+}
+
+TEST(KeyedListOfNames, FollowsNamesThatAreSetOnTheObjects) {
+    varnel::NamedObjects<VarnelObjectGroup> list;
+    std::vector<std::unique_ptr<VarnelObjectGroup>> groups;
+    for (int i = 0; i < 40; ++i) {
+        groups.push_back(std::make_unique<VarnelObjectGroup>("G" + std::to_string(i)));
+        list.append(groups.back().get());
+    }
+    EXPECT_EQ(list.find("G7"), groups[7].get());
+    groups[7]->setName("roof");
+    EXPECT_EQ(list.find("G7"), nullptr);
+    EXPECT_EQ(list.find("roof"), groups[7].get());
+    *groups[3] = *groups[7];
+    EXPECT_EQ(list.find("roof"), groups[3].get()) << "it stands before the other one";
+    const VarnelObjectGroup copied(*groups[9]);
+    EXPECT_EQ(list.find("G9"), groups[9].get());
+    list.update([&](VarnelObjectGroup *&group) { return group != groups[3].get(); });
+    EXPECT_EQ(list.find("roof"), groups[7].get());
+    EXPECT_TRUE(list.eraseFirst(groups[7].get()));
+    EXPECT_FALSE(list.eraseFirst(groups[7].get()));
+    EXPECT_EQ(list.find("roof"), nullptr);
 }
