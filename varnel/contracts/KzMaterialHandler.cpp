@@ -26,11 +26,11 @@ KzMaterialHandler *KzMaterialHandler::get() {
 }
 
 bool KzMaterialHandler::setDatabase() {
-    std::call_once(stocked_, [this] { addStock(); });
-    return true;
+    static const bool done = get()->addStock();  // once, whichever thread makes the first model
+    return done;
 }
 
-void KzMaterialHandler::addStock() {
+bool KzMaterialHandler::addStock() {
     for (const char *name :
          {"C12/15", "C16/20", "C20/25", "C25/30", "C30/37", "C35/45", "C40/50", "C45/55", "C50/60"})
         materials_.add(new KzConcrete(name, concreteRho, concreteGamma));
@@ -41,6 +41,9 @@ void KzMaterialHandler::addStock() {
     for (const char *name : {"S235", "S275", "S355"})
         materials_.add(new KzMaterial(name, steelRho, steelGamma, KzMaterial::STEEL));
     materials_.add(new KzMaterial("C24", timberRho, timberGamma, KzMaterial::TIMBER));
+    // The variants that documents name are there from the start, so that reading one only reads the stock.
+    for (const int variant : {1, 2}) findReinforcementVariant("B500M", variant);
+    return true;
 }
 
 KzMaterial *KzMaterialHandler::findMaterialToName(const std::string &name, int) {
@@ -66,11 +69,10 @@ KzConcrete *KzMaterialHandler::findConcreteToName(const std::string &name, int) 
 KzMaterialReinforcement *KzMaterialHandler::findReinforcementVariant(const std::string &name, int variant) {
     KzMaterialReinforcement *plain = KzMaterialHandler::findReinforcementToName(name);
     if (!plain || plain->getVariant() == variant) return plain;
-    const std::lock_guard<std::mutex> lock(variantsMutex_);
-    std::unique_ptr<KzMaterialReinforcement> &made = variants_[{name, variant}];
-    if (!made) {
-        made.reset(plain->clone());
-        made->setVariant(variant);
+    const auto [place, isNew] = variants_.try_emplace({name, variant});
+    if (isNew) {
+        place->second.reset(plain->clone());
+        place->second->setVariant(variant);
     }
-    return made.get();
+    return place->second.get();
 }

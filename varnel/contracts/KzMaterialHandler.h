@@ -3,7 +3,6 @@
 
 #include <map>
 #include <memory>
-#include <mutex>
 #include <string>
 #include <utility>
 #include <vector>
@@ -43,11 +42,9 @@ class VARNEL_EXPORT KzMaterialHandler {
 
   private:
     KzMaterialHandler();
-    void addStock();
+    bool addStock();
 
     varnel::NamedList<KzMaterial> materials_;
-    std::once_flag stocked_;
-    std::mutex variantsMutex_;
     std::map<std::pair<std::string, int>, std::unique_ptr<KzMaterialReinforcement>> variants_;
 };
 

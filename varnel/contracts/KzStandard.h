@@ -1,12 +1,10 @@
 #ifndef VARNEL_CONTRACTS_KZSTANDARD_H
 #define VARNEL_CONTRACTS_KZSTANDARD_H
 
-#include <atomic>
-
 #include "varnel/contracts/Export.h"
 #include "varnel/contracts/Standard/Mode.h"
 
-/// The code of practice of the process, 0 at first. Documents that are read set it, on whatever thread.
+/// The code of practice of the process, 0 at first.
 class VARNEL_EXPORT KzStandard {
   public:
     static KzStandard *get();
@@ -14,13 +12,15 @@ class VARNEL_EXPORT KzStandard {
     KzStandard &operator=(const KzStandard &) = delete;
 
     Standard::Mode getMode() const { return mode_; }
-    void setMode(Standard::Mode mode) { mode_ = mode; }
-    void setMode(int mode) { mode_ = static_cast<Standard::Mode>(mode); }
+    void setMode(Standard::Mode mode) {
+        if (mode_ != mode) mode_ = mode;  // documents of one standard can be read on several threads
+    }
+    void setMode(int mode) { setMode(static_cast<Standard::Mode>(mode)); }
 
   private:
     KzStandard() = default;
 
-    std::atomic<Standard::Mode> mode_{static_cast<Standard::Mode>(0)};
+    Standard::Mode mode_ = static_cast<Standard::Mode>(0);
 };
 
 #endif
