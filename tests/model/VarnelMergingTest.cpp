@@ -140,7 +140,8 @@ TEST(VarnelMerging, ASupportMovesWithinTwiceTheSmallestDistance) {
     const struct {
         double distance;
         bool moves;
-    } rows[] = {{1.5 * D, true}, {2.0 * D, false}, {1.999 * D, true}, {1e-7, false}, {1.1e-6, true}};
+    } rows[] = {{1.5 * D, true}, {2.0 * D, false}, {1.999 * D, true},
+                {1e-7, false},   {0.99e-6, false}, {1.1e-6, true}};
     for (const auto &row : rows) {
         SCOPED_TRACE(row.distance);
         VarnelDB model(nullptr);
@@ -232,6 +233,35 @@ TEST(VarnelMerging, ALineThatSharesAPointOfABeamMovesTheBeamForTheNextOnes) {
     PlainMerge(plain).run();
     EXPECT_EQ(places(model), places(plain));
     EXPECT_EQ(model.getBeams().front()->getEndVec(), KzVector3D(4 + 1.5 * D, 0, 0));
+}
+
+TEST(VarnelMerging, ASupportThatABeamStandsOnMovesTheBeamForTheNextOnes) {
+    VarnelDB model(nullptr);
+    addBeam(model, KzVector3D(0, 0, 0), KzVector3D(0, 9, 0));
+    const VarnelPointBoundary *first = model.givePointBoundary(KzVector3D(1.5 * D, 0, 0), 7);
+    const VarnelPointBoundary *second = model.givePointBoundary(KzVector3D(3 * D, 0, 0), 7);
+    auto *axis = new VarnelBeamGeo;
+    axis->addLine(new VarnelStraight(first->getGeo(), new VarnelPoint(KzVector3D(9, 0, 0))));
+    VarnelBeam *beam = model.giveBeam(true);
+    beam->setGeo(axis);
+    model.mergePointsInVarnelObjects();
+    EXPECT_EQ(beam->getStartVec(), KzVector3D());
+    EXPECT_EQ(second->getCoor(), KzVector3D(3 * D, 0, 0)) << "the beam that was near has moved away";
+}
+
+TEST(VarnelMerging, ALoadThatALineLoadStandsOnMovesItForTheNextOnes) {
+    VarnelDB model(nullptr);
+    addLineLoad(model, KzVector3D(0, 0, 0), KzVector3D(0, 4, 0));
+    const VarnelPointLoad *first = addLoad(model, KzVector3D(1.5 * D, 0.5 * D, 0));
+    const VarnelPointLoad *second = addLoad(model, KzVector3D(4.4 * D, 0, 0));
+    addLoad(model, KzVector3D(1.5 * D, 0, 0));
+    addLoad(model, KzVector3D(3.4 * D, 0, 0));
+    const VarnelLineLoad *line =
+        model.giveLineLoad(new VarnelStraight(first->getGeo(), new VarnelPoint(KzVector3D(9, 0, 0))));
+    model.mergePointsInVarnelObjects();
+    EXPECT_EQ(first->getCoor(), KzVector3D()) << "by way of the third load";
+    EXPECT_EQ(line->getLine()->getStartVec(), KzVector3D());
+    EXPECT_EQ(second->getCoor(), KzVector3D(3.4 * D, 0, 0)) << "the line that was near has moved away";
 }
 
 TEST(VarnelMerging, MovesAsPlainWalksDo) {

@@ -1,12 +1,18 @@
 #include <gtest/gtest.h>
 
+#include <array>
+#include <cstring>
 #include <limits>
 #include <memory>
 #include <random>
 #include <string>
 #include <vector>
 
+#include "tests/support/ProcessDefaults.h"
+#include "tests/support/RecordingServices.h"
+#include "varnel/contracts/SysBase/ConstructionStage.h"
 #include "varnel/geometry/VarnelAreaPolygon.h"
+#include "varnel/geometry/VarnelBeamGeo.h"
 #include "varnel/geometry/VarnelPlatePosition.h"
 #include "varnel/geometry/VarnelPoint.h"
 #include "varnel/geometry/VarnelStraight.h"
@@ -23,8 +29,12 @@
 #include "varnel/members/VarnelPlate.h"
 #include "varnel/members/VarnelPointBoundary.h"
 #include "varnel/model/VarnelDB.h"
+#include "varnel/model/VarnelDefaultProperties.h"
+#include "varnel/model/VarnelNamesManager.h"
 #include "varnel/model/VarnelObjectGroup.h"
 #include "varnel/model/VarnelSetupHelper.h"
+#include "varnel/model/VarnelSubSystem.h"
+#include "varnel/process/VarnelManager.h"
 
 namespace {
 
@@ -46,6 +56,13 @@ VarnelSetupHelper number(Varnel &model) {
     VarnelSetupHelper helper;
     model.setupNumbers(helper);
     return helper;
+}
+
+std::array<int, 13> counters(const VarnelSetupHelper &helper) {
+    std::array<int, 13> values{};
+    static_assert(sizeof values == sizeof helper);
+    std::memcpy(values.data(), &helper, sizeof values);
+    return values;
 }
 
 /// Notes the hooks in the order in which they are called.
@@ -72,31 +89,47 @@ class HookedModel : public VarnelDB {
 }  // namespace
 
 TEST(VarnelSetupHelper, StartsAtZero) {
-    const VarnelSetupHelper helper;
-    EXPECT_EQ(helper.plateCount, 0);
-    EXPECT_EQ(helper.beamCount, 0);
-    EXPECT_EQ(helper.holeCount, 0);
-    EXPECT_EQ(helper.gapCount, 0);
-    EXPECT_EQ(helper.pointBoundaryCount, 0);
-    EXPECT_EQ(helper.lineBoundaryCount, 0);
-    EXPECT_EQ(helper.pointLoadCount, 0);
-    EXPECT_EQ(helper.lineLoadCount, 0);
-    EXPECT_EQ(helper.areaLoadCount, 0);
-    EXPECT_EQ(helper.beamLoadCount, 0);
-    EXPECT_EQ(helper.constructionStageCount, 0);
-    EXPECT_EQ(helper.firstSpareCount, 0);
-    EXPECT_EQ(helper.secondSpareCount, 0);
-    EXPECT_EQ(sizeof(VarnelSetupHelper), 13 * sizeof(int));
+    EXPECT_EQ(counters(VarnelSetupHelper()), (std::array<int, 13>{}));
+}
+
+TEST(VarnelSetupHelper, HoldsItsCountersInAFixedOrder) {
+    const VarnelSetupHelper helper{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13};
+    EXPECT_EQ(helper.plateCount, 1);
+    EXPECT_EQ(helper.beamCount, 2);
+    EXPECT_EQ(helper.holeCount, 3);
+    EXPECT_EQ(helper.gapCount, 4);
+    EXPECT_EQ(helper.pointBoundaryCount, 5);
+    EXPECT_EQ(helper.lineBoundaryCount, 6);
+    EXPECT_EQ(helper.pointLoadCount, 7);
+    EXPECT_EQ(helper.lineLoadCount, 8);
+    EXPECT_EQ(helper.areaLoadCount, 9);
+    EXPECT_EQ(helper.beamLoadCount, 10);
+    EXPECT_EQ(helper.constructionStageCount, 11);
 }
 
 TEST(VarnelNumbering, AnEmptyModelMovesNoCounter) {
     Varnel model(nullptr);
     model.givePoint(KzVector3D());
-    const VarnelSetupHelper helper = number(model);
+    EXPECT_EQ(counters(number(model)), (std::array<int, 13>{}));
     EXPECT_TRUE(model.getPoints().empty());
-    EXPECT_EQ(helper.plateCount, 0);
-    EXPECT_EQ(helper.lineBoundaryCount, 0);
     EXPECT_FALSE(model.getChanged());
+}
+
+TEST(VarnelNumbering, NullEntriesUseUpNoNumber) {
+    VarnelDB model(nullptr);
+    model.add(static_cast<VarnelPlate *>(nullptr));
+    model.add(static_cast<VarnelBeam *>(nullptr));
+    model.add(static_cast<VarnelHole *>(nullptr));
+    model.add(static_cast<VarnelPointBoundary *>(nullptr));
+    model.add(static_cast<VarnelLineBoundary *>(nullptr));
+    model.add(static_cast<VarnelLoadDistributionArea *>(nullptr));
+    model.add(static_cast<VarnelPointLoad *>(nullptr));
+    model.add(static_cast<VarnelLineLoad *>(nullptr));
+    model.add(static_cast<VarnelAreaLoad *>(nullptr));
+    model.add(static_cast<VarnelBeamLoad *>(nullptr));
+    const VarnelPlate *plate = addPlate(model, square(0, 0));
+    EXPECT_EQ(counters(number(model)), (std::array<int, 13>{1}));
+    EXPECT_EQ(plate->getNumber(), 1);
 }
 
 TEST(VarnelNumbering, PlatesThatMeetShareTheirPoints) {
@@ -148,6 +181,47 @@ TEST(VarnelNumbering, CountersRunOnThroughModelsAndPointsStartAfresh) {
     EXPECT_EQ(helper.constructionStageCount, 0);
 }
 
+TEST(VarnelNumbering, NothingIsMarkedAsChanged) {
+    VarnelDB model(nullptr);
+    addPlate(model, square(0, 0))->setBoundary(0, VarnelLineBoundaryData(7, ""));
+    model.giveBeam(true);
+    model.add(model.giveHole());
+    model.givePointBoundary(KzVector3D(), 7);
+    model.add(new VarnelLineBoundary(newLine(0, 0)));
+    model.givePointLoad();
+    model.giveLineLoad(newLine(0, 0));
+    model.giveAreaLoad();
+    model.giveBeamLoad();
+    model.setChanged(false);
+    number(model);
+    EXPECT_FALSE(model.getChanged());
+}
+
+TEST(VarnelNumbering, StagesOfASubsystemComeAfterThoseOfItsChildren) {
+    recording::Factory factory;
+    factory.hasExchange = false;  // so that output() numbers the tree and writes nothing
+    VarnelManager manager(&factory);
+    VarnelSubSystem *root = manager.getCurrentSubSystem();
+    VarnelSubSystem *first = manager.giveSubSystem("first", root);
+    VarnelSubSystem *below = manager.giveSubSystem("below", first);
+    VarnelSubSystem *second = manager.giveSubSystem("second", root);
+    std::vector<VarnelPlate *> plates;
+    for (VarnelSubSystem *subSystem : {second, below, first, root}) {
+        plates.push_back(subSystem->getDatabase()->givePlate(true));
+        subSystem->giveConstructionStageToNumber(50);
+        subSystem->giveConstructionStageToNumber(60);
+    }
+    manager.output("house.xml");
+    std::vector<int> numbers;
+    for (const VarnelPlate *plate : plates) numbers.push_back(plate->getNumber());
+    EXPECT_EQ(numbers, (std::vector<int>{4, 3, 2, 1}));
+    numbers.clear();
+    for (const VarnelSubSystem *subSystem : {below, first, second, root})
+        for (const SysBase::ConstructionStage *stage : subSystem->getConstructionStages())
+            numbers.push_back(stage->getNumber());
+    EXPECT_EQ(numbers, (std::vector<int>{1, 2, 3, 4, 5, 6, 7, 8}));
+}
+
 TEST(VarnelNumbering, PointsAreMetPassByPass) {
     VarnelDB model(nullptr);
     model.giveAreaLoad()->setArea(new VarnelAreaPolygon(square(70, 0)));
@@ -195,6 +269,21 @@ TEST(VarnelNumbering, TheBeamOfABeamLoadAndThePlatesOwnLoadsAreNotVisited) {
     EXPECT_EQ(own->getNumber(), 17);
 }
 
+TEST(VarnelNumbering, InnerPointsOfBeamsAreNotVisited) {
+    VarnelDB model(nullptr);
+    auto *axis = new VarnelBeamGeo;
+    axis->addLine(new VarnelStraight(KzVector3D(0, 0, 0), KzVector3D(1, 1, 0)));
+    axis->addLine(new VarnelStraight(*axis->getLine(0), new VarnelPoint(KzVector3D(2, 0, 0))));
+    VarnelBeam *beam = model.giveBeam(true);
+    beam->setGeo(axis);
+    beam->getStart().setNumber(7);
+    number(model);
+    EXPECT_EQ(model.getNumberOfPoints(), 2);
+    EXPECT_EQ(beam->getStart().getNumber(), 1);
+    EXPECT_EQ(beam->getEnd().getNumber(), 2);
+    EXPECT_EQ(axis->getLine(0)->getEnd()->getNumber(), 0);
+}
+
 TEST(VarnelNumbering, OnlyTheFirstFourEdgesAreNumberedAndNamed) {
     VarnelDB model(nullptr);
     VarnelPlate *plate = addPlate(model, {{0, 0, 0}, {2, 0, 0}, {3, 1, 0}, {1, 2, 0}, {0, 1, 0}});
@@ -231,6 +320,34 @@ TEST(VarnelNumbering, NamelessLineBoundariesGetTheLowestFreeNames) {
     EXPECT_EQ(numbers, (std::vector<int>{1, 2, 3, 4, 5}));
 }
 
+TEST(VarnelNumbering, NamesAreThoseThatANamesManagerProposes) {
+    const ProcessDefaults defaults;
+    VarnelDefaultProperties::get()->setLBData(VarnelLineBoundaryData(0, "W"));
+    for (unsigned seed = 0; seed < 20; ++seed) {
+        SCOPED_TRACE(seed);
+        std::mt19937 random(seed);
+        VarnelDB model(nullptr);
+        VarnelDB plain(nullptr);
+        for (int i = 0; i < 12; ++i) {
+            static const char *const prefixes[] = {"W", "W0", "", "w"};
+            std::string name;
+            if (random() % 2 == 0) name = prefixes[random() % 4] + std::to_string(random() % 8);
+            for (VarnelDB *one : {&model, &plain}) {
+                auto *boundary = new VarnelLineBoundary(newLine(0, 0));
+                boundary->getData().setName(name);
+                one->add(boundary);
+            }
+        }
+        number(model);
+        VarnelNamesManager names(&plain);
+        auto named = model.getLineBoundaries().begin();
+        for (VarnelLineBoundary *boundary : plain.getLineBoundaries()) {
+            if (boundary->getName().empty()) boundary->getData().setName(names.nextLineBoundary());
+            EXPECT_EQ((*named++)->getName(), boundary->getName());
+        }
+    }
+}
+
 TEST(VarnelNumbering, EdgesAreNamedBeforeLineBoundaries) {
     VarnelDB model(nullptr);
     VarnelPlate *plate = addPlate(model, square(0, 0));
@@ -257,7 +374,7 @@ TEST(VarnelNumbering, DerivedModelsHookIn) {
     HookedModel model;
     addPlate(model, square(0, 0));
     model.giveLineLoad(newLine(0, 0));
-    model.giveBeam(true);
+    model.giveBeam(true)->add(new VarnelJoint(0.5, 1));  // not by way of a hook
     model.givePointLoad();
     model.getPlates().front()->giveResultPosition(0, 0, 0);
     model.getPlates().front()->giveResultPosition(9, 0, 0);

@@ -458,8 +458,12 @@ TEST(VarnelObjects, LoadsOfACaseAreTakenOutUndeletedWhateverIsAsked) {
     EXPECT_TRUE(model.getBeamLoads().empty());
     EXPECT_EQ(group->getObjects(), std::list<VarnelObject *>{other});
     EXPECT_TRUE(model.loadChanged());
+    EXPECT_TRUE(group->getChanged());
     EXPECT_EQ(point->getLoadcase(), &loadcase);
     model.setChanged(false);
     model.removeLoadsToLoadcase(true, &loadcase);
     EXPECT_FALSE(model.getChanged()) << "there was none left";
+    const std::unique_ptr<VarnelPointLoad> withoutCase(other);
+    model.removeLoadsToLoadcase(false, nullptr);
+    EXPECT_TRUE(model.getPointLoads().empty());
 }

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "varnel/contracts/Found/Foundation.h"
@@ -19,13 +20,33 @@
 #include "varnel/members/VarnelAttributeArea.h"
 #include "varnel/members/VarnelBeam.h"
 #include "varnel/members/VarnelDesignData.h"
+#include "varnel/members/VarnelFoundedPart.h"
 #include "varnel/members/VarnelHole.h"
 #include "varnel/members/VarnelJoint.h"
 #include "varnel/members/VarnelPlate.h"
 #include "varnel/members/VarnelPointBoundary.h"
 #include "varnel/model/VarnelDB.h"
+#include "varnel/process/VarnelFactory.h"
+#include "varnel/process/VarnelManager.h"
 #include "varnel/stages/VarnelBeamState.h"
 #include "varnel/stages/VarnelConstructionStage.h"
+
+namespace {
+
+std::string asked;
+
+/// Notes when a box is handed to it.
+template <class Base, char letter>
+class Boxed : public Base {
+  public:
+    using Base::Base;
+    void updateMinMax(KzVector3D *min, KzVector3D *max, const KzMatrix44 &frame) const override {
+        asked += letter;
+        Base::updateMinMax(min, max, frame);
+    }
+};
+
+}  // namespace
 
 TEST(VarnelQueries, AMaterialIsInUseInBeamsAndPlatesOnly) {
     VarnelDB model(nullptr);
@@ -78,6 +99,17 @@ TEST(VarnelQueries, AFoundationIsInUseUnderABeamOrAPlate) {
     EXPECT_TRUE(model.check(&first));
     EXPECT_TRUE(model.check(&second));
     EXPECT_FALSE(model.check(&third));
+}
+
+TEST(VarnelQueries, AFoundationIsInUseUnderAPartOfABeam) {
+    VarnelFactory factory;
+    VarnelManager manager(&factory);
+    Varnel &model = *manager.getDatabase();
+    VarnelBeam *beam = model.giveBeam(true);
+    beam->addFoundation(KzVector3D(0, 0, 1), 0.0, KzVector3D(0, 0, 2), 0.5, &manager);
+    const VarnelFoundedPart *part = beam->getFoundations().front();
+    EXPECT_TRUE(model.check(part->getFStart()));
+    EXPECT_TRUE(model.check(part->getFEnd()));
 }
 
 TEST(VarnelQueries, AMeshIsInUseInThePlatesDesign) {
@@ -187,6 +219,18 @@ TEST(VarnelQueries, TheBoxIsWidenedByTheStructureAndNotByLoads) {
     model.updateMinMax(&min, &max, frame);
     EXPECT_EQ(min, KzVector3D(9, -2, -3));
     EXPECT_EQ(max, KzVector3D(17, 8, 0));
+}
+
+TEST(VarnelQueries, TheBoxIsHandedThroughTheKindsInAFixedOrder) {
+    VarnelDB model(nullptr);
+    model.add(new Boxed<VarnelHole, 'H'>);
+    model.add(new Boxed<VarnelPlate, 'P'>(nullptr));
+    model.add(new Boxed<VarnelBeam, 'B'>);
+    model.add(new Boxed<VarnelStraight, 'L'>(KzVector3D(), KzVector3D()));
+    asked.clear();
+    KzVector3D min, max;
+    model.getMinMax(&min, &max);
+    EXPECT_EQ(asked, "LBPH");
 }
 
 TEST(VarnelQueries, TheDesignStandardIsConstant) {

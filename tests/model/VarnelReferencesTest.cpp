@@ -43,9 +43,15 @@ VarnelLine *randomLine(std::mt19937 &random) {
     return new VarnelCircle(place() + KzVector3D(0, 1, 0), place(), place());
 }
 
-/// The reference of each line boundary must be what the single query answers.
+/// The reference of each boundary must be what the single query answers.
 void expectReferencesAsAsked(Varnel &model) {
     model.setupBoundaryReferences();
+    for (const VarnelPlate *plate : model.getPlates())
+        for (std::size_t i = 0; i < plate->getGeo()->getNumLines(); ++i) {
+            const VarnelLineBoundaryData *boundary = plate->getBoundary(i);
+            if (!boundary) continue;
+            ASSERT_EQ(boundary->getReference(), model.findLineBoundaryToLine(plate->getGeo()->getLine(i)));
+        }
     for (VarnelLineBoundary *boundary : model.getLineBoundaries())
         ASSERT_EQ(boundary->getData().getReference(), model.findLineBoundaryToLine(boundary->getGeo()));
 }
@@ -85,6 +91,18 @@ TEST(VarnelReferences, AnEdgeWithoutABoundaryIsPassedOver) {
     EXPECT_TRUE(second->getBoundary(3)->isReference());
 }
 
+TEST(VarnelReferences, EdgesBeyondTheFourthHaveThemToo) {
+    VarnelDB model(nullptr);
+    VarnelPlate *plate = model.givePlate(true);
+    plate->setArea(model.giveAreaPolygon({{0, 0, 0}, {2, 0, 0}, {3, 1, 0}, {1, 2, 0}, {0, 1, 0}}));
+    plate->setBoundary(4, VarnelLineBoundaryData(7, ""));
+    VarnelLineBoundary *boundary =
+        addBoundary(model, new VarnelStraight(KzVector3D(0, 0, 0), KzVector3D(0, 1, 0)));
+    model.setupBoundaryReferences();
+    EXPECT_TRUE(plate->getBoundary(4)->isReference());
+    EXPECT_EQ(boundary->getData().getReference(), plate->getBoundary(4));
+}
+
 TEST(VarnelReferences, AnArcNeverRefersToItself) {
     Varnel model(nullptr);
     const KzVector3D start(0, 0, 0), end(2, 0, 0);
@@ -122,8 +140,13 @@ TEST(VarnelReferences, AreThoseOfThePlainWalk) {
     for (unsigned seed = 0; seed < 40; ++seed) {
         SCOPED_TRACE(seed);
         std::mt19937 random(seed);
-        Varnel model(nullptr);
+        VarnelDB model(nullptr);
         for (int i = 0; i < 40; ++i) addBoundary(model, randomLine(random));
+        for (int i = 0; i < 4; ++i) {
+            VarnelPlate *plate = addPlate(model, static_cast<double>(random() % 3));
+            for (std::size_t edge = 0; edge < 4; ++edge)
+                if (random() % 2 == 0) plate->setBoundary(edge, VarnelLineBoundaryData(7, ""));
+        }
         expectReferencesAsAsked(model);
         if (seed % 4 == 1) addBoundary(model, new HostLine(KzVector3D(), KzVector3D(1, 0, 0)));
         if (seed % 4 == 2)

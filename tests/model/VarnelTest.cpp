@@ -8,6 +8,9 @@
 #include <vector>
 
 #include "tests/support/VirtualSlot.h"
+#include "varnel/contracts/KzMaterial.h"
+#include "varnel/contracts/KzMaterialHandler.h"
+#include "varnel/contracts/SDBSection.h"
 #include "varnel/contracts/SysBase/Loadcase.h"
 #include "varnel/geometry/VarnelAreaPolygon.h"
 #include "varnel/geometry/VarnelPlatePosition.h"
@@ -17,15 +20,19 @@
 #include "varnel/loads/VarnelBeamLoad.h"
 #include "varnel/loads/VarnelLineLoad.h"
 #include "varnel/loads/VarnelPointLoad.h"
+#include "varnel/members/VarnelAttributeArea.h"
 #include "varnel/members/VarnelBeam.h"
 #include "varnel/members/VarnelDesignData.h"
 #include "varnel/members/VarnelGap.h"
 #include "varnel/members/VarnelHole.h"
 #include "varnel/members/VarnelLineBoundary.h"
+#include "varnel/members/VarnelLoadDistributionArea.h"
 #include "varnel/members/VarnelPlate.h"
 #include "varnel/members/VarnelPointBoundary.h"
+#include "varnel/members/VarnelRefinePolygon.h"
 #include "varnel/model/VarnelDB.h"
 #include "varnel/model/VarnelObjectGroup.h"
+#include "varnel/results/VarnelResultSection.h"
 
 namespace {
 
@@ -36,11 +43,71 @@ VarnelStraight *newLine() {
 /// Opens what a derived model sees.
 class OpenModel : public VarnelDB {
   public:
+    using VarnelDB::add;
     using VarnelDB::setupNumbersOfAreaPoints;
     using VarnelDB::setupNumbersOfLinePoints;
     using VarnelDB::setupNumbersOfPoint;
     using VarnelDB::VarnelDB;
 };
+
+std::string notes;  // letters of the objects that something happened to, in that order
+
+/// Notes when it is asked for a change and when it is told of one.
+template <class Base, char letter>
+class Noting : public Base {
+  public:
+    using Base::Base;
+    bool getChanged() const override {
+        notes += letter;
+        return Base::getChanged();
+    }
+    void setChanged(bool changed) override {
+        notes += letter;
+        Base::setChanged(changed);
+    }
+};
+
+/// The same for a plate, which a model asks through the non-const question.
+class NotingPlate : public VarnelPlate {
+  public:
+    NotingPlate() : VarnelPlate(nullptr) {}
+    using VarnelPlate::getChanged;
+    bool getChanged() override {
+        notes += 'P';
+        return VarnelPlate::getChanged();
+    }
+    void setChanged(bool changed) override {
+        notes += 'P';
+        VarnelPlate::setChanged(changed);
+    }
+};
+
+/// Notes its death.
+template <class Base, char letter>
+class Dying : public Base {
+  public:
+    using Base::Base;
+    ~Dying() override { notes += letter; }
+};
+
+/// One object of each kind that has a flag, all unchanged.
+void fillNoting(OpenModel &model) {
+    auto *gap = new Noting<VarnelGap, 'g'>;
+    model.add(new Noting<VarnelObjectGroup, 'G'>(""));
+    model.add(static_cast<VarnelGap *>(gap));
+    model.add(new Noting<VarnelLineBoundary, 'W'>(newLine()));
+    model.add(new Noting<VarnelPointBoundary, 'S'>(KzVector3D(), 0, nullptr));
+    model.add(new Noting<VarnelHole, 'H'>);
+    model.add(new Noting<VarnelBeam, 'B'>);
+    model.add(new NotingPlate);
+    model.add(new Noting<VarnelAreaLoad, 'a'>);
+    model.add(new Noting<VarnelBeamLoad, 'b'>);
+    model.add(new Noting<VarnelPointLoad, 'p'>);
+    model.add(new Noting<VarnelLineLoad, 'l'>(newLine()));
+    model.setChanged(false);
+    gap->setChanged(false);
+    notes.clear();
+}
 
 /// A way to make one thing of a model changed, on a model whose flags are clear otherwise.
 struct Change {
@@ -107,6 +174,11 @@ TEST(Varnel, StartsEmptyAndUnchanged) {
     EXPECT_FALSE(model.getPlates(nullptr));
 }
 
+TEST(Varnel, OpensTheMaterialDatabase) {
+    const Varnel model(nullptr);
+    EXPECT_NE(KzMaterialHandler::get()->findMaterialToName("S235"), nullptr);
+}
+
 TEST(Varnel, SettersStoreAndOnlyGravityMarksAChange) {
     Varnel model(nullptr);
     model.setDescription(std::string("House"));
@@ -162,6 +234,37 @@ TEST(Varnel, AsksItsObjectsForChanges) {
     }
 }
 
+TEST(Varnel, AsksItsObjectsInAFixedOrderUntilOneIsChanged) {
+    OpenModel model(nullptr);
+    fillNoting(model);
+    EXPECT_FALSE(model.systemChanged());
+    EXPECT_EQ(notes, "PBHSWgG");
+    notes.clear();
+    EXPECT_FALSE(model.loadChanged());
+    EXPECT_EQ(notes, "abpl");
+    model.getHoles().front()->setChanged(true);
+    model.getPointLoads().front()->setChanged(true);
+    notes.clear();
+    EXPECT_TRUE(model.systemChanged());
+    EXPECT_EQ(notes, "PBH");
+    notes.clear();
+    EXPECT_TRUE(model.loadChanged());
+    EXPECT_EQ(notes, "abp");
+}
+
+TEST(Varnel, TellsItsObjectsInAFixedOrderAndLeavesGapsOut) {
+    OpenModel model(nullptr);
+    fillNoting(model);
+    model.setSystemChanged(true);
+    EXPECT_EQ(notes, "PBHSWG");
+    notes.clear();
+    model.setLoadChanged(true);
+    EXPECT_EQ(notes, "plab");
+    notes.clear();
+    model.setChanged(false);
+    EXPECT_EQ(notes, "PBHSWGplab");
+}
+
 TEST(Varnel, SettingTheLoadFlagReachesAllLoads) {
     VarnelDB model(nullptr);
     fill(model);
@@ -199,70 +302,74 @@ TEST(Varnel, ClearingEverythingKeepsWhatIsNoObject) {
     model.setDescription("House");
     model.setNumberOfBeamLocations(7);
     model.setAcceleration(KzVector3D(1, 0, 0));
-    int section = 0;
-    model.addGeneratedSection(reinterpret_cast<SDBSection *>(&section));
-    model.giveDesignData();
-    model.giveAttributeArea();
-    model.givePoint(KzVector3D());
+    SDBSection section("S", 0.1);
+    model.addGeneratedSection(&section);
     model.removeAll();
-    EXPECT_TRUE(model.getPlates().empty());
-    EXPECT_TRUE(model.getPoints().empty());
-    EXPECT_TRUE(model.getLineBoundaryDatas().empty());
-    EXPECT_TRUE(model.getDesignParameters().empty());
-    EXPECT_TRUE(model.getAttributeAreas().empty());
-    EXPECT_TRUE(model.getObjectGroups().empty());
-    EXPECT_TRUE(model.getBeamLoads().empty());
     EXPECT_TRUE(model.hasPlatewithName(name));
     EXPECT_EQ(model.getDescription(), "House");
     EXPECT_EQ(model.getNumberOfBeamLocations(), 7);
     EXPECT_EQ(model.getAcceleration(), KzVector3D(1, 0, 0));
+    EXPECT_TRUE(model.check(&section));
+}
+
+TEST(Varnel, ClearingEverythingEmptiesAllLists) {
+    VarnelDB model(nullptr);
+    fill(model);
+    model.add(newLine());
+    model.giveGap();
+    model.add(model.giveLoadDistributionArea());
+    model.giveDesignData();
+    auto *polygon = new VarnelRefinePolygon;
+    polygon->setArea(model.giveArea());
+    model.add(polygon);
+    model.giveAttributeArea();
+    model.add(model.giveResultSection(KzVector3D(), KzVector3D(1, 0, 0)));
+    model.givePoint(KzVector3D());
+    model.removeAll();
+    EXPECT_TRUE(model.getPoints().empty());
+    EXPECT_TRUE(model.getLines().empty());
+    EXPECT_TRUE(model.getPlates().empty());
+    EXPECT_TRUE(model.getBeams().empty());
+    EXPECT_TRUE(model.getHoles().empty());
+    EXPECT_TRUE(model.getGaps().empty());
+    EXPECT_TRUE(model.getPointLoads().empty());
+    EXPECT_TRUE(model.getLineLoads().empty());
+    EXPECT_TRUE(model.getAreaLoads().empty());
+    EXPECT_TRUE(model.getBeamLoads().empty());
+    EXPECT_TRUE(model.getPointBoundaries().empty());
+    EXPECT_TRUE(model.getLineBoundaries().empty());
+    EXPECT_TRUE(model.getLineBoundaryDatas().empty());
+    EXPECT_TRUE(model.getLoadDistributionAreas().empty());
+    EXPECT_TRUE(model.getDesignParameters().empty());
+    EXPECT_TRUE(model.getRefinePolygons().empty());
+    EXPECT_TRUE(model.getAttributeAreas().empty());
+    EXPECT_TRUE(model.getResultSections().empty());
+    EXPECT_TRUE(model.getObjectGroups().empty());
 }
 
 TEST(Varnel, DeletesItsObjectsInAFixedOrder) {
-    static std::string dead;
-    struct Plate : VarnelPlate {
-        Plate() : VarnelPlate(nullptr) {}
-        ~Plate() override { dead += 'P'; }
-    };
-    struct Beam : VarnelBeam {
-        ~Beam() override { dead += 'B'; }
-    };
-    struct Hole : VarnelHole {
-        ~Hole() override { dead += 'H'; }
-    };
-    struct Line : VarnelStraight {
-        Line() : VarnelStraight(KzVector3D(), KzVector3D()) {}
-        ~Line() override { dead += 'l'; }
-    };
-    struct PointLoad : VarnelPointLoad {
-        ~PointLoad() override { dead += 'p'; }
-    };
-    struct AreaLoad : VarnelAreaLoad {
-        ~AreaLoad() override { dead += 'a'; }
-    };
-    struct Support : VarnelPointBoundary {
-        Support() : VarnelPointBoundary(KzVector3D(), 0, nullptr) {}
-        ~Support() override { dead += 'S'; }
-    };
-    struct Group : VarnelObjectGroup {
-        Group() : VarnelObjectGroup("") {}
-        ~Group() override { dead += 'G'; }
-    };
-    dead.clear();
+    notes.clear();
     {
-        Varnel model(nullptr);
-        model.add(new Group);
-        model.add(new Support);
-        model.add(new AreaLoad);
-        model.add(new PointLoad);
-        model.add(new Hole);
-        model.add(new Beam);
-        model.add(new Plate);
-        model.add(new Plate);
-        model.add(new Line);
+        OpenModel model(nullptr);
+        model.add(new Dying<VarnelObjectGroup, 'G'>(""));
+        model.add(new Dying<VarnelResultSection, 'R'>(nullptr));
+        model.add(new Dying<VarnelAttributeArea, 'A'>);
+        model.add(new Dying<VarnelLoadDistributionArea, 'D'>);
+        model.add(new Dying<VarnelLineBoundary, 'W'>(newLine()));
+        model.add(new Dying<VarnelPointBoundary, 'S'>(KzVector3D(), 0, nullptr));
+        model.add(new Dying<VarnelBeamLoad, 'b'>);
+        model.add(new Dying<VarnelAreaLoad, 'a'>);
+        model.add(new Dying<VarnelLineLoad, 'l'>(newLine()));
+        model.add(new Dying<VarnelPointLoad, 'p'>);
+        model.add(static_cast<VarnelGap *>(new Dying<VarnelGap, 'g'>));
+        model.add(new Dying<VarnelHole, 'H'>);
+        model.add(new Dying<VarnelBeam, 'B'>);
+        model.add(new Dying<VarnelPlate, 'P'>(nullptr));
+        model.add(new Dying<VarnelPlate, 'P'>(nullptr));
+        model.add(new Dying<VarnelStraight, 'L'>(KzVector3D(), KzVector3D()));
         model.add(static_cast<VarnelPlate *>(nullptr));
     }
-    EXPECT_EQ(dead, "lPPBHpaSG");
+    EXPECT_EQ(notes, "LPPBHgplabSWDARG");
 }
 
 TEST(Varnel, RemovesResultsOfPlatesAndBeamsOnly) {
@@ -329,6 +436,15 @@ TEST(Varnel, NullEntriesAreHarmless) {
     model.setupBoundaryReferences();
     model.setupResultLocations();
     model.mergePointsInVarnelObjects();
+    const VarnelStraight line(KzVector3D(), KzVector3D(1, 0, 0));
+    EXPECT_EQ(model.findLineBoundaryToLine(&line), nullptr);
+    EXPECT_FALSE(model.check(static_cast<const KzMaterial *>(nullptr)));
+    EXPECT_FALSE(model.check(static_cast<const Found::Foundation *>(nullptr)));
+    EXPECT_FALSE(model.check(static_cast<const KzReinfStockMesh *>(nullptr)));
+    EXPECT_EQ(model.getNumberOfPointLoadsToLoadcase(nullptr), 0);
+    KzVector3D min, max;
+    model.getMinMax(&min, &max);
+    EXPECT_EQ(max, KzVector3D());
     EXPECT_EQ(model.getNumberOfPointLoads(), 1);
     model.remove(static_cast<VarnelBeam *>(nullptr), true);
     EXPECT_EQ(model.getNumberOfBeams(), 0);

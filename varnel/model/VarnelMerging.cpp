@@ -2,6 +2,7 @@
 #include <cmath>
 #include <cstddef>
 #include <deque>
+#include <list>
 #include <memory>
 #include <unordered_map>
 #include <unordered_set>
@@ -134,15 +135,20 @@ class Merging {
     void pointLoadsOntoLineLoads();
 
   private:
+    using Enter = void (Merging::*)(PlaceGrid &);
+
     void enterBeams(PlaceGrid &grid);
     void enterSystem(PlaceGrid &grid);
-    bool sharesAPoint(const VarnelLine &line) const;
+    void enterLineLoads(PlaceGrid &grid);
+    std::unique_ptr<PlaceGrid> collect(Enter enter);
+    template <class Object>
+    void moveOnto(Enter enter, const std::list<Object *> &objects);
     VarnelPointLoad *findNextPointLoad(const PlaceGrid &grid, std::size_t index) const;
 
     const Varnel &model_;
     double mergeDistance_;
-    std::unordered_set<const VarnelPoint *> systemPoints_;
-    std::vector<VarnelPointLoad *> loads_;  // each once, as in the grid of point loads
+    std::unordered_set<const VarnelPoint *> points_;  // of the places that were collected last
+    std::vector<VarnelPointLoad *> loads_;            // each once, as in the grid of point loads
 };
 
 void Merging::enterBeams(PlaceGrid &grid) {
@@ -150,45 +156,61 @@ void Merging::enterBeams(PlaceGrid &grid) {
         if (!beam || !hasAxis(*beam)) continue;
         grid.append(beam->getStartVec());
         grid.append(beam->getEndVec());
-        systemPoints_.insert(&beam->getStart());
-        systemPoints_.insert(&beam->getEnd());
+        points_.insert({&beam->getStart(), &beam->getEnd()});
     }
 }
 
+/// Beam ends come before point boundaries.
 void Merging::enterSystem(PlaceGrid &grid) {
     enterBeams(grid);
     for (const VarnelPointBoundary *boundary : model_.getPointBoundaries()) {
         if (!boundary) continue;
         grid.append(boundary->getCoor());
-        systemPoints_.insert(boundary->getGeo());
+        points_.insert(boundary->getGeo());
+    }
+}
+
+void Merging::enterLineLoads(PlaceGrid &grid) {
+    for (const VarnelLineLoad *load : model_.getLineLoads()) {
+        const VarnelLine *line = load ? load->getLine() : nullptr;
+        if (!line) continue;
+        grid.append(line->getStartVec());
+        grid.append(line->getEndVec());
+        points_.insert({line->getStart(), line->getEnd()});
+    }
+}
+
+/// Lines may have been made on points of supports, loads and other lines. Whoever moves such a point moves
+/// the places themselves, which must be collected anew.
+std::unique_ptr<PlaceGrid> Merging::collect(Enter enter) {
+    points_.clear();
+    auto places = std::make_unique<PlaceGrid>(mergeDistance_);
+    (this->*enter)(*places);
+    return places;
+}
+
+template <class Object>
+void Merging::moveOnto(Enter enter, const std::list<Object *> &objects) {
+    auto places = collect(enter);
+    KzVector3D place;
+    for (Object *object : objects) {
+        if (!object || !places->findFirst(object->getCoor(), place)) continue;
+        object->setCoor(place);
+        if (points_.count(object->getGeo()) != 0) places = collect(enter);
     }
 }
 
 void Merging::pointBoundariesOntoBeams() {
-    PlaceGrid beams(mergeDistance_);
-    enterBeams(beams);
-    KzVector3D place;
-    for (VarnelPointBoundary *boundary : model_.getPointBoundaries())
-        if (boundary && beams.findFirst(boundary->getCoor(), place)) boundary->setCoor(place);
+    moveOnto(&Merging::enterBeams, model_.getPointBoundaries());
 }
 
 void Merging::pointLoadsOntoBeams() {
-    PlaceGrid beams(mergeDistance_);
-    enterBeams(beams);
-    KzVector3D place;
-    for (VarnelPointLoad *load : model_.getPointLoads())
-        if (load && beams.findFirst(load->getCoor(), place)) load->setCoor(place);
+    moveOnto(&Merging::enterBeams, model_.getPointLoads());
 }
 
-/// A load's line may have been made on a point of the structure: then moving it moves the structure.
-bool Merging::sharesAPoint(const VarnelLine &line) const {
-    return systemPoints_.count(line.getStart()) != 0 || systemPoints_.count(line.getEnd()) != 0;
-}
-
-/// Beam ends come before point boundaries. Both ends are set in any case, which marks the line as changed.
+/// Both ends are set in any case, which marks the line as changed.
 void Merging::lineLoadsOntoSystem() {
-    auto system = std::make_unique<PlaceGrid>(mergeDistance_);
-    enterSystem(*system);
+    auto system = collect(&Merging::enterSystem);
     for (const VarnelLineLoad *load : model_.getLineLoads()) {
         VarnelLine *line = load ? load->getLine() : nullptr;
         if (!line) continue;
@@ -200,10 +222,9 @@ void Merging::lineLoadsOntoSystem() {
         system->findFirst(formerEnd, end);
         line->setStart(start);
         line->setEnd(end);
-        if ((start != formerStart || end != formerEnd) && sharesAPoint(*line)) {
-            system = std::make_unique<PlaceGrid>(mergeDistance_);
-            enterSystem(*system);
-        }
+        const bool moved = start != formerStart || end != formerEnd;
+        if (moved && points_.count(line->getStart()) + points_.count(line->getEnd()) != 0)
+            system = collect(&Merging::enterSystem);
     }
 }
 
@@ -241,16 +262,7 @@ void Merging::pointLoadsOntoOneAnother() {
 }
 
 void Merging::pointLoadsOntoLineLoads() {
-    PlaceGrid ends(mergeDistance_);
-    for (const VarnelLineLoad *load : model_.getLineLoads()) {
-        const VarnelLine *line = load ? load->getLine() : nullptr;
-        if (!line) continue;
-        ends.append(line->getStartVec());
-        ends.append(line->getEndVec());
-    }
-    KzVector3D place;
-    for (VarnelPointLoad *load : model_.getPointLoads())
-        if (load && ends.findFirst(load->getCoor(), place)) load->setCoor(place);
+    moveOnto(&Merging::enterLineLoads, model_.getPointLoads());
 }
 
 }  // namespace
