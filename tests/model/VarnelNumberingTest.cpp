@@ -5,6 +5,7 @@
 #include <limits>
 #include <memory>
 #include <random>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -436,6 +437,52 @@ TEST(VarnelNumbering, GroupsFollowTheSystemPointsWithoutAChange) {
     EXPECT_EQ(group->getObjects(),
               (std::list<VarnelObject *>{model.findPoint(KzVector3D()), plate, nullptr}));
     EXPECT_FALSE(group->getChanged());
+}
+
+TEST(VarnelNumbering, HooksAreNeverAskedAboutMissingGeometry) {
+    class Strict : public VarnelDB {
+      public:
+        Strict() : VarnelDB(nullptr) {}
+
+      private:
+        void setupNumbersOfAreaPoints(const VarnelArea *area) override { EXPECT_NE(area, nullptr); }
+        void setupNumbersOfLinePoints(const VarnelLine *line) override { EXPECT_NE(line, nullptr); }
+        void setupNumbersOfPoint(const VarnelPoint *point) override { EXPECT_NE(point, nullptr); }
+    } model;
+    model.givePlate(true);
+    model.add(model.giveHole());
+    model.add(model.giveLoadDistributionArea());
+    model.giveBeam(true)->setGeo(nullptr);
+    model.add(new VarnelLineBoundary(nullptr));
+    model.giveLineLoad(nullptr);
+    model.giveAreaLoad();
+    number(model);
+    model.setupResultLocations();
+    EXPECT_EQ(model.getNumberOfPoints(), 0);
+}
+
+TEST(VarnelNumbering, AnExceptionLeavesNoFormerPointInAGroup) {
+    class Failing : public VarnelDB {
+      public:
+        Failing() : VarnelDB(nullptr) {}
+        bool fails = false;
+
+      private:
+        void setupNumbersOfAreaPoints(const VarnelArea *area) override {
+            VarnelDB::setupNumbersOfAreaPoints(area);
+            if (fails) throw std::runtime_error("no more points");
+        }
+    } model;
+    addPlate(model, square(0, 0));
+    addPlate(model, square(5, 0));
+    number(model);
+    auto *group = new VarnelObjectGroup("G");
+    model.add(group);
+    group->add(model.getPoints().front());
+    group->add(model.getPoints().back());
+    model.fails = true;
+    EXPECT_THROW(number(model), std::runtime_error);
+    EXPECT_EQ(group->getObjects(), (std::list<VarnelObject *>{model.getPoints().front()}));
 }
 
 TEST(VarnelNumbering, ResultPositionsTakeNumbersLater) {

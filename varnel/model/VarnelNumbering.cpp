@@ -34,24 +34,28 @@ int raised(int &counter) {
     return counter;
 }
 
-/// System points that are members of groups. They are kept alive while the points are made anew; then each
-/// gives its place in the group to the new point at its coordinates, or leaves the group.
+/// System points that are members of groups. They are kept alive while the points are made anew; at its end,
+/// also when an exception ends the run, each gives its place in the group to the new point at its
+/// coordinates, or leaves the group.
 class GroupedPoints {
   public:
-    GroupedPoints(const std::list<VarnelObjectGroup *> &groups, varnel::PointList &points) : groups_(groups) {
+    GroupedPoints(const std::list<VarnelObjectGroup *> &groups, varnel::PointList &points)
+        : groups_(groups), points_(points) {
         points.expect(points.list().size());
         kept_.swap(points);
         if (groups.empty()) kept_.clear();
         for (VarnelPoint *point : kept_.list()) former_.emplace(point, point);
     }
-    void replaceBy(const varnel::PointList &points) {
+    GroupedPoints(const GroupedPoints &) = delete;
+    GroupedPoints &operator=(const GroupedPoints &) = delete;
+    ~GroupedPoints() {
         if (former_.empty()) return;
         for (VarnelObjectGroup *group : groups_) {
             if (!group) continue;
-            group->update([this, &points](VarnelObject *&member) {
+            group->update([this](VarnelObject *&member) {
                 const auto former = former_.find(member);
                 if (former == former_.end()) return true;
-                member = points.find(former->second->getCoor());
+                member = points_.find(former->second->getCoor());
                 return member != nullptr;
             });
         }
@@ -59,6 +63,7 @@ class GroupedPoints {
 
   private:
     const std::list<VarnelObjectGroup *> &groups_;
+    const varnel::PointList &points_;
     varnel::PointList kept_;
     std::unordered_map<const VarnelObject *, const VarnelPoint *> former_;
 };
@@ -84,6 +89,13 @@ class Varnel::Numbering {
   private:
     void edges(VarnelPlate &plate);
     varnel::FreeNames boundaryNames() const;
+    // The hooks of the model are asked only about geometry that is there.
+    void pointsOf(const VarnelArea *outline) {
+        if (outline) model_.setupNumbersOfAreaPoints(outline);
+    }
+    void pointsOf(const VarnelLine *line) {
+        if (line) model_.setupNumbersOfLinePoints(line);
+    }
 
     Varnel &model_;
     VarnelSetupHelper &helper_;
@@ -103,7 +115,7 @@ void Varnel::Numbering::plates() {
         if (!plate) continue;
         plate->setNumber(raised(helper_.plateCount));
         edges(*plate);
-        model_.setupNumbersOfAreaPoints(plate->getGeo());
+        pointsOf(plate->getGeo());
     }
 }
 
@@ -121,7 +133,7 @@ void Varnel::Numbering::edges(VarnelPlate &plate) {
 
 void Varnel::Numbering::loadDistributionAreas() {
     for (const VarnelLoadDistributionArea *area : model_.loadDistributionAreas_.list())
-        if (area) model_.setupNumbersOfAreaPoints(area->getGeo());
+        if (area) pointsOf(area->getGeo());
 }
 
 void Varnel::Numbering::beams() {
@@ -141,7 +153,7 @@ void Varnel::Numbering::holes() {
     for (VarnelHole *hole : model_.holes_.list()) {
         if (!hole) continue;
         hole->setNumber(raised(helper_.holeCount));
-        model_.setupNumbersOfAreaPoints(hole->getGeo());
+        pointsOf(hole->getGeo());
     }
 }
 
@@ -168,7 +180,7 @@ void Varnel::Numbering::lineBoundaries() {
             names.use(boundary->getName());
         }
         boundary->setNumber(raised(helper_.lineBoundaryCount));
-        model_.setupNumbersOfLinePoints(boundary->getGeo());
+        pointsOf(boundary->getGeo());
     }
 }
 
@@ -196,12 +208,12 @@ void Varnel::Numbering::loads() {
     for (VarnelLineLoad *load : model_.lineLoads_.list()) {
         if (!load) continue;
         load->setNumber(raised(helper_.lineLoadCount));
-        model_.setupNumbersOfLinePoints(load->getLine());
+        pointsOf(load->getLine());
     }
     for (VarnelAreaLoad *load : model_.areaLoads_.list()) {
         if (!load) continue;
         load->setNumber(raised(helper_.areaLoadCount));
-        model_.setupNumbersOfAreaPoints(load->getArea());
+        pointsOf(load->getArea());
     }
     for (VarnelBeamLoad *load : model_.beamLoads_.list())
         if (load) load->setNumber(raised(helper_.beamLoadCount));
@@ -215,7 +227,7 @@ void Varnel::Numbering::numbersOfLoadDistributionAreas() {
 }
 
 void Varnel::setupNumbers(VarnelSetupHelper &helper) {
-    GroupedPoints grouped(objectGroups_.list(), points_);
+    const GroupedPoints grouped(objectGroups_.list(), points_);
     Numbering numbering(*this, helper);
     numbering.plates();
     numbering.loadDistributionAreas();
@@ -227,7 +239,6 @@ void Varnel::setupNumbers(VarnelSetupHelper &helper) {
     numbering.resultPositions();
     numbering.loads();
     numbering.numbersOfLoadDistributionAreas();
-    grouped.replaceBy(points_);
 }
 
 void Varnel::setupNumbersOfAreaPoints(const VarnelArea *area) {
@@ -238,8 +249,8 @@ void Varnel::setupNumbersOfAreaPoints(const VarnelArea *area) {
 
 void Varnel::setupNumbersOfLinePoints(const VarnelLine *line) {
     if (!line) return;
-    setupNumbersOfPoint(line->getStart());
-    setupNumbersOfPoint(line->getEnd());
+    for (const VarnelPoint *end : {line->getStart(), line->getEnd()})
+        if (end) setupNumbersOfPoint(end);
 }
 
 void Varnel::setupNumbersOfPoint(const VarnelPoint *point) {
@@ -249,6 +260,7 @@ void Varnel::setupNumbersOfPoint(const VarnelPoint *point) {
 void Varnel::setupResultLocations() {
     for (const VarnelPlate *plate : plates_.list()) {
         if (!plate) continue;
-        for (const VarnelPlatePosition *position : plate->getResultPositions()) setupNumbersOfPoint(position);
+        for (const VarnelPlatePosition *position : plate->getResultPositions())
+            if (position) setupNumbersOfPoint(position);
     }
 }
