@@ -15,6 +15,8 @@
 #include "varnel/contracts/SDBSectionLine.h"
 #include "varnel/contracts/SysBase/BeamDesignLocation.h"
 #include "varnel/contracts/SysBase/BeamResultState.h"
+#include "varnel/contracts/SysBase/BeamStressResultantsLocation.h"
+#include "varnel/contracts/SysBase/InterfaceStressLocation.h"
 #include "varnel/geometry/VarnelBase.h"
 #include "varnel/geometry/VarnelBeamGeo.h"
 #include "varnel/geometry/VarnelLine.h"
@@ -23,6 +25,7 @@
 #include "varnel/members/VarnelDesignData.h"
 #include "varnel/members/VarnelGapControl.h"
 #include "varnel/members/VarnelJoint.h"
+#include "varnel/results/VarnelGapResultState.h"
 
 namespace {
 
@@ -375,6 +378,33 @@ TEST(VarnelBeam, RemovesResultsWithThoseOfItsGaps) {
     EXPECT_EQ(nullptr, beam.getLeftGap()->findResultState(1));
     EXPECT_EQ(nullptr, beam.getRightGap()->findResultState(1));
     EXPECT_TRUE(beam.getDesignResults().empty());
+}
+
+/// A result record that notes its death.
+template <class Location>
+struct Noted : Location {
+    Noted(std::string &notes, char sign) : notes_(notes), sign_(sign) {}
+    Noted(const Noted &) = delete;
+    Noted &operator=(const Noted &) = delete;
+    ~Noted() override { notes_ += sign_; }
+
+    std::string &notes_;
+    char sign_;
+};
+
+TEST(VarnelBeam, RemovesStatesThenLeftAndRightGapThenDesignResults) {
+    std::string notes;
+    VarnelBeam beam;
+    auto *left = new VarnelGapControl();
+    auto *right = new VarnelGapControl();
+    beam.setLeftGap(left);
+    beam.setRightGap(right);
+    beam.add(new Noted<SysBase::BeamDesignLocation>(notes, 'D'));
+    right->giveResultState(1)->add(new Noted<SysBase::InterfaceStressLocation>(notes, 'R'));
+    left->giveResultState(1)->add(new Noted<SysBase::InterfaceStressLocation>(notes, 'L'));
+    beam.giveResultState(1)->add(new Noted<SysBase::BeamStressResultantsLocation>(notes, 'S'));
+    beam.removeResults();
+    EXPECT_EQ("SLRD", notes);
 }
 
 TEST(VarnelBeam, WithoutGapsRemovesItsOwnResults) {

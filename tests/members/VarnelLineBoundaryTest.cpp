@@ -25,6 +25,20 @@ VarnelLine *arc() {
     return new VarnelCircle(origin, onX, onY);
 }
 
+/// A line that looks, when it dies, whether a record still refers to another one.
+class LateLine : public VarnelStraight {
+  public:
+    LateLine(const VarnelLineBoundaryData &referrer, bool &targetThere)
+        : VarnelStraight(origin, onX), referrer_(referrer), targetThere_(targetThere) {}
+    LateLine(const LateLine &) = delete;
+    LateLine &operator=(const LateLine &) = delete;
+    ~LateLine() override { targetThere_ = referrer_.getReference() != nullptr; }
+
+  private:
+    const VarnelLineBoundaryData &referrer_;
+    bool &targetThere_;
+};
+
 void expectSame(const KzMatrix44 &expected, const KzMatrix44 &actual) {
     for (std::size_t i = 0; i < 4; ++i)
         EXPECT_TRUE(varnel::isNear(expected.getVector(i), actual.getVector(i))) << i;
@@ -42,6 +56,17 @@ TEST(VarnelLineBoundary, TakesTheLineOverAndHasDefaults) {
     EXPECT_EQ(nullptr, boundary.getStiffnessData());
     EXPECT_EQ(std::vector<double>(6), boundary.getStiffness());
     EXPECT_TRUE(boundary.getChanged()) << "through its new values and its new line";
+}
+
+TEST(VarnelLineBoundary, WhenItDiesTheLineGoesBeforeTheValues) {
+    VarnelLineBoundaryData referrer;
+    bool valuesThere = false;
+    {
+        VarnelLineBoundary boundary(new LateLine(referrer, valuesThere));
+        referrer.setReference(&boundary.getData());
+    }
+    EXPECT_TRUE(valuesThere);
+    EXPECT_EQ(nullptr, referrer.getReference());
 }
 
 TEST(VarnelLineBoundary, ItsOwnFlagIsBornFalse) {

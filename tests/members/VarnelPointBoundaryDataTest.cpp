@@ -193,6 +193,8 @@ TEST(VarnelPointBoundaryData, AssignedToItselfItKeepsItsValues) {
     const VarnelPointBoundaryData &same = data;
     data = same;
     expectFilled(data);
+    EXPECT_TRUE(data.VarnelBoundaryData::getChanged());
+    EXPECT_TRUE(data.getBase().getChanged());
     VarnelPointBoundaryData zeros;
     zeros.setDispStiff(KzVector3D());
     const VarnelPointBoundaryData &sameZeros = zeros;

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <type_traits>
 
 #include "varnel/contracts/SysBase/InterfaceStressLocation.h"
 
@@ -20,6 +21,7 @@ TEST(VarnelGapResultState, IsBornWithItsNumberAlone) {
     EXPECT_TRUE(state.getStressLocations().empty());
     state.setNumber(5);
     EXPECT_EQ(5, state.getNumber());
+    EXPECT_FALSE(std::is_polymorphic<VarnelGapResultState>::value);
 }
 
 TEST(VarnelGapResultState, OwnsLocationsUntilTheyAreRemoved) {

@@ -23,6 +23,7 @@ TEST(VarnelLineResultData, BeginsAsAnEmptyEnvelope) {
     EXPECT_EQ(-1e10, data.getMaxMx());
     EXPECT_EQ(1e10, data.getMinMy());
     EXPECT_EQ(-1e10, data.getMaxMy());
+    EXPECT_TRUE(std::is_trivially_copyable<VarnelLineResultData>::value);
 }
 
 TEST(VarnelLineResultData, HoldsAndCopiesItsValues) {

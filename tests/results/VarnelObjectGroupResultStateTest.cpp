@@ -5,6 +5,7 @@
 #include <cmath>
 #include <memory>
 #include <random>
+#include <type_traits>
 #include <vector>
 
 #include "varnel/results/VarnelNodeResultLocation.h"
@@ -21,6 +22,7 @@ VarnelNodeResultLocation *walkTo(const VarnelObjectGroupResultState &state, cons
 TEST(VarnelObjectGroupResultState, GivesOneRecordForEachExactPosition) {
     VarnelObjectGroupResultState state;
     EXPECT_TRUE(state.getNodalResults().empty());
+    EXPECT_FALSE(std::is_polymorphic<VarnelObjectGroupResultState>::value);
     const KzVector3D position(1.0, 2.0, 3.0);
     VarnelNodeResultLocation *record = state.giveResultPosition(position);
     ASSERT_NE(nullptr, record);

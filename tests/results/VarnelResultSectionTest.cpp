@@ -4,9 +4,13 @@
 
 #include <memory>
 #include <type_traits>
+#include <utility>
 
 #include "tests/support/VirtualSlot.h"
 #include "varnel/geometry/VarnelArea.h"
+#include "varnel/geometry/VarnelLine.h"
+#include "varnel/model/Varnel.h"
+#include "varnel/process/VarnelDatabaseFactory.h"
 #include "varnel/results/VarnelResultSectionLocation.h"
 
 namespace {
@@ -19,6 +23,38 @@ class CountedLocation : public VarnelResultSectionLocation {
 
   private:
     int &living_;
+};
+
+/// A location that looks, when it dies, whether its section still has its line.
+class LateLocation : public VarnelResultSectionLocation {
+  public:
+    LateLocation(const VarnelResultSection &section, bool &lineThere)
+        : VarnelResultSectionLocation(0.5), section_(section), lineThere_(lineThere) {}
+    ~LateLocation() override { lineThere_ = section_.getGeo() != nullptr; }
+
+  private:
+    const VarnelResultSection &section_;
+    bool &lineThere_;
+};
+
+/// A host's factory, which may decline to make a section.
+class HostFactory : public VarnelDatabaseFactory {
+  public:
+    VarnelResultSection *giveResultSection(Varnel *model) override {
+        asked = model;
+        return declines ? nullptr : made = new VarnelResultSection(model);
+    }
+
+    Varnel *asked = nullptr;
+    VarnelResultSection *made = nullptr;
+    bool declines = false;
+};
+
+class HostModel : public Varnel {
+  public:
+    explicit HostModel(std::shared_ptr<VarnelDatabaseFactory> factory) : Varnel(nullptr) {
+        setDBaseFactory(std::move(factory));
+    }
 };
 
 const KzVector3D start(1.0, 2.0, 3.0);
@@ -91,6 +127,40 @@ TEST(VarnelResultSection, ResetFreesTheLocationsAndLeavesTheLine) {
     EXPECT_TRUE(section.getLocations().empty());
     EXPECT_EQ(line, section.getGeo());
     EXPECT_EQ(end, section.getP2());
+}
+
+TEST(VarnelResultSection, WhenItDiesTheLineGoesBeforeTheLocations) {
+    bool lineThere = false;
+    {
+        VarnelResultSection section(nullptr, start, end);
+        section.getLocations().push_back(new LateLocation(section, lineThere));
+        section.reset();
+        EXPECT_TRUE(lineThere);
+        section.getLocations().push_back(new LateLocation(section, lineThere));
+    }
+    EXPECT_FALSE(lineThere);
+}
+
+TEST(VarnelResultSection, OfTheFactoryMovesItsFirstEndWithTheFirstPoint) {
+    VarnelDatabaseFactory factory;
+    const std::unique_ptr<VarnelResultSection> section(factory.giveResultSection(nullptr));
+    EXPECT_EQ(KzVector3D(0.0, 0.0, 1.0), section->getNormal());
+    section->setP1(start);
+    EXPECT_EQ(start, section->getGeo()->getLine(0)->getStartVec());
+    EXPECT_EQ(KzVector3D(), section->getGeo()->getLine(0)->getEndVec());
+}
+
+TEST(VarnelResultSection, OfAModelIsMadeByTheFactoryOfTheHost) {
+    const auto factory = std::make_shared<HostFactory>();
+    HostModel model(factory);
+    const std::unique_ptr<VarnelResultSection> section(model.giveResultSection(start, end));
+    EXPECT_EQ(&model, factory->asked);
+    EXPECT_EQ(factory->made, section.get());
+    EXPECT_EQ(start, section->getP1());
+    EXPECT_EQ(end, section->getP2());
+    EXPECT_EQ(1, section->getNumber());
+    factory->declines = true;
+    EXPECT_EQ(nullptr, model.giveResultSection(start, end));
 }
 
 TEST(VarnelResultSection, FreesItsLocationsWhenItDies) {

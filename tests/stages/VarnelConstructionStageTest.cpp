@@ -13,6 +13,7 @@
 #include "varnel/members/VarnelBeam.h"
 #include "varnel/members/VarnelPlate.h"
 #include "varnel/members/VarnelPointBoundary.h"
+#include "varnel/model/VarnelDB.h"
 #include "varnel/stages/VarnelBeamState.h"
 #include "varnel/stages/VarnelLineLoadState.h"
 #include "varnel/stages/VarnelPlateState.h"
@@ -121,6 +122,42 @@ TEST(VarnelConstructionStage, AStateOfAnotherClassIsAnsweredWithNull) {
     EXPECT_EQ(1U, stage.getObjectStates().size());
 }
 
+TEST(VarnelConstructionStage, TakesAModelByKindsAndThenInTheOrderOfItsLists) {
+    VarnelDB model(nullptr);
+    const VarnelLineLoad *lineLoad = model.giveLineLoad(nullptr);
+    const VarnelPointLoad *pointLoad = model.givePointLoad();
+    const VarnelPointBoundary *boundary = model.givePointBoundary(KzVector3D(), 7);
+    const VarnelPlate *plate = model.givePlate(true);
+    const VarnelBeam *first = model.giveBeam(true);
+    const VarnelBeam *second = model.giveBeam(true);
+    HostStage stage;
+    model.storeCurrentCSTProperties(&stage);
+    model.storeCurrentCSTProperties(&stage);
+    EXPECT_EQ(2, stage.living) << "the states of the first time are gone";
+    std::vector<const VarnelStateObject *> objects;
+    for (const VarnelObjectState *state : stage.getObjectStates()) objects.push_back(state->getStateObject());
+    const std::vector<const VarnelStateObject *> expected{first,    second,    plate,
+                                                          boundary, pointLoad, lineLoad};
+    EXPECT_EQ(expected, objects);
+}
+
+TEST(VarnelConstructionStage, KeepsTheStatesOfObjectsThatLeaveTheModel) {
+    VarnelDB model(nullptr);
+    VarnelPlate *plate = model.givePlate(true);
+    const std::unique_ptr<VarnelBeam> beam(model.giveBeam(true));
+    VarnelConstructionStage stage;
+    model.storeCurrentCSTProperties(&stage);
+    const States states = stage.getObjectStates();
+    ASSERT_EQ(2U, states.size());
+    model.removeFromConstructionStage(plate);
+    EXPECT_EQ(states, stage.getObjectStates());
+    model.remove(beam.get(), false);
+    model.remove(plate, true);
+    EXPECT_EQ(states, stage.getObjectStates());
+    EXPECT_EQ(beam.get(), stage.giveState(beam.get())->getBeam());
+    EXPECT_EQ(states, stage.getObjectStates());
+}
+
 TEST(VarnelConstructionStage, RemoveStatesFreesThemAll) {
     HostStage stage;
     VarnelBeam beam;
@@ -131,6 +168,7 @@ TEST(VarnelConstructionStage, RemoveStatesFreesThemAll) {
     stage.removeStates();
     EXPECT_EQ(0, stage.living);
     EXPECT_TRUE(stage.getObjectStates().empty());
+    stage.removeStates();
     stage.giveState(&beam);
     EXPECT_EQ(1U, stage.getObjectStates().size());
 }

@@ -92,6 +92,30 @@ TEST(VarnelObjectState, SetupWithoutAnObjectGivesInactive) {
     EXPECT_FALSE(state.isActive());
 }
 
+/// For states that record the flag and nothing else.
+template <class State, class Object>
+void expectTakesAndAppliesTheFlag(Object &object) {
+    State state(&object);
+    object.setChanged(false);
+    object.setActive(false);
+    state.setup();
+    EXPECT_FALSE(state.isActive());
+    state.setActive(true);
+    EXPECT_FALSE(object.getActive());
+    state.update();
+    EXPECT_TRUE(object.getActive());
+    EXPECT_FALSE(object.getChanged());
+}
+
+TEST(VarnelObjectState, OfALoadOrASupportItTakesAndAppliesTheFlag) {
+    VarnelLineLoad lineLoad(nullptr);
+    VarnelPointLoad pointLoad;
+    const auto boundary = std::make_unique<VarnelPointBoundary>(KzVector3D(), 0, nullptr);
+    expectTakesAndAppliesTheFlag<VarnelLineLoadState>(lineLoad);
+    expectTakesAndAppliesTheFlag<VarnelPointLoadState>(pointLoad);
+    expectTakesAndAppliesTheFlag<VarnelPointBoundaryState>(*boundary);
+}
+
 TEST(VarnelObjectState, VisitsAsNothing) {
     VarnelObjectState state(nullptr);
     KindVisitor visitor;

@@ -7,7 +7,9 @@ VarnelLineBoundary::VarnelLineBoundary(VarnelLineBoundary &other)
       geometry_(other.geometry_ ? other.geometry_->clone() : nullptr),
       data_(other.data_) {}
 
-VarnelLineBoundary::~VarnelLineBoundary() = default;
+VarnelLineBoundary::~VarnelLineBoundary() {
+    geometry_.reset();  // the line goes before the values
+}
 
 void VarnelLineBoundary::setLocal(bool local) {
     data_.setLocal(local);

@@ -28,7 +28,7 @@ class VARNEL_EXPORT VarnelSubSystem {
     /// Becomes a view of the other node. What this node owned lives on until it dies, since the other one may
     /// be a view of it.
     VarnelSubSystem &operator=(const VarnelSubSystem &other);
-    /// Deletes the model, then the children, then the stages without their states.
+    /// Deletes the model, then the children, then the stages with their states.
     virtual ~VarnelSubSystem();
 
     const KzMatrix44 &getBase() const { return base_; }

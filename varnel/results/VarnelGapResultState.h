@@ -27,6 +27,7 @@ class VARNEL_EXPORT VarnelGapResultState : public varnel::Shared {
     }
     /// Appends a location, which is owned from then on. Null is ignored.
     void add(SysBase::InterfaceStressLocation *location);
+    /// Gives up all locations; those that a copy shares live on there.
     void removeStressLocations();
 
   private:

@@ -23,6 +23,7 @@ class VARNEL_EXPORT VarnelObjectGroupResultState : public varnel::Shared {
     const std::list<VarnelNodeResultLocation *> &getNodalResults() const { return nodalResults_; }
     /// The first record at exactly this position; made if there is none, so always for a NaN.
     VarnelNodeResultLocation *giveResultPosition(const KzVector3D &position);
+    /// Gives up all records; those that a copy shares live on there.
     void clear();
 
   private:

@@ -60,6 +60,7 @@ VarnelResultSection &VarnelResultSection::operator=(const VarnelResultSection &o
 }
 
 VarnelResultSection::~VarnelResultSection() {
+    geo_.reset();  // the line goes before the locations
     reset();
 }
 

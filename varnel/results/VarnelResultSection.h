@@ -27,12 +27,15 @@ class VARNEL_EXPORT VarnelResultSection : public VarnelPosition {
     VarnelResultSection &operator=(const VarnelResultSection &other);
     ~VarnelResultSection() override;
 
+    /// As it was given at birth; there is no other way to set it.
     KzVector3D getNormal() const { return normal_; }
+    /// Stored for the host.
     bool getInPlane() const { return inPlane_; }
     void setInPlane(bool inPlane) { inPlane_ = inPlane; }
 
     /// The line, kept as an area that runs out and back.
     VarnelArea *getGeo() const { return geo_.get(); }
+    /// Start and end (m) of the first line; the origin if there is none.
     void setP1(const KzVector3D &point);
     void setP2(const KzVector3D &point);
     KzVector3D getP1() const;

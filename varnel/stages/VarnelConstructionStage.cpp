@@ -14,7 +14,7 @@
 #include "varnel/stages/VarnelPointBoundaryState.h"
 #include "varnel/stages/VarnelPointLoadState.h"
 
-VarnelConstructionStage::VarnelConstructionStage() : watch_(new varnel::StateWatch) {}
+VarnelConstructionStage::VarnelConstructionStage() = default;
 
 VarnelConstructionStage::VarnelConstructionStage(const VarnelConstructionStage &other)
     : ConstructionStage(other),
@@ -64,7 +64,7 @@ VarnelLineLoadState *VarnelConstructionStage::giveState(VarnelLineLoad *load) {
 void VarnelConstructionStage::removeStates() {
     table_.clear();
     // The states may live on in a copy of this stage, whose table must hear of them, and this one not.
-    watch_.reset(new varnel::StateWatch);
+    watch_.reset();
     tabulated_ = 0;
     tabulable_ = true;
     varnel::releaseAll(objectStates_);
@@ -92,7 +92,7 @@ VarnelBeamState *VarnelConstructionStage::createState(VarnelBeam *beam) {
 
 VarnelObjectState *VarnelConstructionStage::findObjectState(VarnelStateObject *object) {
     if (!tabulable_) return walkToState(object);
-    if (tabulated_ != watch_->replacements()) tabulate();
+    if (watch_ && tabulated_ != watch_->replacements()) tabulate();
     const auto place = table_.find(object);
     return place == table_.end() ? nullptr : place->second;
 }
@@ -110,6 +110,7 @@ State *VarnelConstructionStage::findOrCreate(Object *object) {
 
 /// Files the state behind all others, so that an earlier one of the same object stays the first.
 void VarnelConstructionStage::enter(VarnelObjectState *state) {
+    if (!watch_) watch_.reset(new varnel::StateWatch);
     if (!state->watch_) state->watch_ = watch_;
     if (state->watch_.get() != watch_.get()) tabulable_ = false;
     table_.emplace(state->getStateObject(), state);

@@ -41,6 +41,7 @@ class VARNEL_EXPORT VarnelConstructionStage : public SysBase::ConstructionStage 
 
     /// States in the order of their creation.
     const std::list<VarnelObjectState *> &getObjectStates() const { return objectStates_; }
+    /// Gives up all states; those that a copy of the stage shares live on there.
     void removeStates();
 
   protected:
@@ -52,6 +53,7 @@ class VARNEL_EXPORT VarnelConstructionStage : public SysBase::ConstructionStage 
     virtual VarnelBeamState *createState(VarnelBeam *beam);
 
   private:
+    /// The first state of the object, or null; a derived stage may search in its own way.
     virtual VarnelObjectState *findObjectState(VarnelStateObject *object);
 
     template <class State, class Object>
@@ -65,7 +67,7 @@ class VARNEL_EXPORT VarnelConstructionStage : public SysBase::ConstructionStage 
     // The first state of each object. Made anew once a state stands for another object; stages whose states
     // stand in an unrelated stage as well are walked instead, since that one hears of the changes.
     std::unordered_map<const VarnelStateObject *, VarnelObjectState *> table_;
-    varnel::Held<varnel::StateWatch> watch_;
+    varnel::Held<varnel::StateWatch> watch_;  // null while there is no state
     unsigned long tabulated_ = 0;
     bool tabulable_ = true;
 };
