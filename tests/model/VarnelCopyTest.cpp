@@ -1,10 +1,12 @@
 #include <gtest/gtest.h>
 
+#include <list>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "varnel/contracts/KzMaterial.h"
+#include "varnel/contracts/SDBSection.h"
 #include "varnel/contracts/SysBase/Loadcase.h"
 #include "varnel/geometry/VarnelAreaPolygon.h"
 #include "varnel/geometry/VarnelBeamGeo.h"
@@ -140,8 +142,11 @@ TEST(VarnelCopy, TheDeepCopyHasObjectsOfItsOwnWithTheSourcesNumbers) {
 TEST(VarnelCopy, TheDeepCopyTakesGravityAndLeavesTheRest) {
     VarnelDB source(nullptr);
     fill(source);
+    SDBSection section("S", 1);
+    source.addGeneratedSection(&section);
     VarnelDB target(nullptr);
     target.copy(source);
+    EXPECT_FALSE(target.check(&section));
     EXPECT_EQ(target.getAcceleration(), KzVector3D(0, 1, 0));
     EXPECT_EQ(target.getNumberOfBeamLocations(), 8);
     EXPECT_EQ(target.getDescription(), "");
@@ -156,6 +161,8 @@ TEST(VarnelCopy, TheDeepCopyTakesGravityAndLeavesTheRest) {
     EXPECT_TRUE(target.getAttributeAreas().empty());
     EXPECT_TRUE(target.getResultSections().empty());
     EXPECT_TRUE(target.getObjectGroups().empty());
+    VarnelDB view(source);
+    EXPECT_TRUE(view.check(&section));
 }
 
 TEST(VarnelCopy, TheDeepCopyAppends) {
@@ -169,6 +176,18 @@ TEST(VarnelCopy, TheDeepCopyAppends) {
     EXPECT_EQ(target.findPlateToNumber(11), target.getPlates().front());
     target.copy(target);
     expectOneOfEach(target, 4);
+}
+
+TEST(VarnelCopy, TheDeepCopyListsEdgesBeforeLineBoundaries) {
+    VarnelDB source(nullptr);
+    source.add(new VarnelLineBoundary(new VarnelStraight(KzVector3D(), KzVector3D(1, 0, 0))));
+    fill(source);
+    VarnelDB target(nullptr);
+    target.copy(source);
+    const VarnelPlate *plate = target.getPlates().front();
+    std::list<VarnelLineBoundaryData *> expected{plate->getBoundary(0), nullptr, nullptr, nullptr};
+    for (VarnelLineBoundary *boundary : target.getLineBoundaries()) expected.push_back(&boundary->getData());
+    EXPECT_EQ(target.getLineBoundaryDatas(), expected);
 }
 
 TEST(VarnelCopy, TheDeepCopySkipsNullEntries) {

@@ -2,16 +2,19 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
+#include <cstdlib>
+#include <vector>
 
 #include "varnel/contracts/Found/Foundation.h"
 #include "varnel/contracts/Found/FoundationManager.h"
 #include "varnel/contracts/KzMaterial.h"
 #include "varnel/contracts/KzMaterialManager.h"
 #include "varnel/contracts/KzMaterialReinforcement.h"
+#include "varnel/contracts/KzPreStressSteel.h"
 #include "varnel/contracts/KzReinfLine.h"
 #include "varnel/contracts/KzReinfLineList.h"
 #include "varnel/contracts/KzReinfMeshList.h"
+#include "varnel/contracts/KzReinfSteel.h"
 #include "varnel/contracts/KzReinfStockMesh.h"
 #include "varnel/contracts/SDBSectionLine.h"
 #include "varnel/contracts/SDBSectionManager.h"
@@ -53,13 +56,7 @@ class DefaultProperties : public ::testing::Test {
     }
 };
 
-}  // namespace
-
-TEST_F(DefaultProperties, ThereIsOneInstance) {
-    EXPECT_EQ(VarnelDefaultProperties::get(), &defaults);
-}
-
-TEST_F(DefaultProperties, RecordsStartWithEmptyNames) {
+void expectFresh(const VarnelDefaultProperties &defaults) {
     EXPECT_EQ(defaults.getLBData().getName(), "");
     EXPECT_EQ(defaults.getLBData().getDof(), 0);
     EXPECT_EQ(defaults.getPlateProp().getName(), "");
@@ -72,6 +69,41 @@ TEST_F(DefaultProperties, RecordsStartWithEmptyNames) {
     EXPECT_EQ(defaults.getPBData().getName(), "");
     EXPECT_EQ(defaults.getHole().getName(), "");
     EXPECT_EQ(defaults.getLDA().getName(), "");
+}
+
+/// The addresses of all records.
+std::vector<const void *> records(const VarnelDefaultProperties &defaults) {
+    return {&defaults.getLBData(),    &defaults.getPlateProp(), &defaults.getLineLoad(),
+            &defaults.getPointLoad(), &defaults.getAreaLoad(),  &defaults.getBeamProp(),
+            &defaults.getPBData(),    &defaults.getHole(),      &defaults.getLDA()};
+}
+
+}  // namespace
+
+TEST_F(DefaultProperties, ThereIsOneInstance) {
+    EXPECT_EQ(VarnelDefaultProperties::get(), &defaults);
+}
+
+// These two run in a process of their own, which no other test has touched.
+
+TEST(DefaultPropertiesDeathTest, RecordsStartWithEmptyNames) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    const auto start = [] {
+        expectFresh(*VarnelDefaultProperties::get());
+        std::exit(::testing::Test::HasFailure() ? 1 : 0);
+    };
+    EXPECT_EXIT(start(), ::testing::ExitedWithCode(0), "");
+}
+
+TEST(DefaultPropertiesDeathTest, OutliveAManagerThatLivesToTheEnd) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    const auto run = [] {
+        static VarnelFactory factory;
+        static const VarnelManager manager(&factory);
+        expectFresh(*VarnelDefaultProperties::get());  // first asked for after the manager was made
+        std::exit(0);
+    };
+    EXPECT_EXIT(run(), ::testing::ExitedWithCode(0), "");
 }
 
 TEST_F(DefaultProperties, SettersAssignToTheRecordThatReferencesSee) {
@@ -88,7 +120,8 @@ TEST_F(DefaultProperties, SettersAssignToTheRecordThatReferencesSee) {
     EXPECT_EQ(earlier.getName(), "B");
 }
 
-TEST_F(DefaultProperties, EverySetterStores) {
+TEST_F(DefaultProperties, EverySetterStoresInTheRecordThatIsThere) {
+    const std::vector<const void *> before = records(defaults);
     VarnelPlateProperties plate;
     plate.setThick(0.5);
     defaults.setPlateProp(plate);
@@ -119,6 +152,7 @@ TEST_F(DefaultProperties, EverySetterStores) {
     distribution.setName("A");
     defaults.setLDA(distribution);
     EXPECT_EQ(defaults.getLDA().getName(), "A");
+    EXPECT_EQ(records(defaults), before);
 }
 
 TEST_F(DefaultProperties, KnowsTheResourcesOfItsRecords) {
@@ -149,18 +183,27 @@ TEST_F(DefaultProperties, ProtectsResourcesOfAManagerOnlyWhileItIsRegistered) {
     VarnelManager manager(&factory);
     auto *material = new KzMaterial("A", 1, 1);
     manager.getMaterialManager()->add(material);
+    auto *section = new SDBSectionLine("S", 1);
+    manager.getSectionManager()->add(section);
+    auto *foundation = new Found::Foundation(KzVector3D(1, 0, 0));
+    manager.getFoundationManager()->add(foundation);
     VarnelPlateProperties plate;
     plate.setMaterial(material);
+    plate.setFoundation(foundation);
     defaults.setPlateProp(plate);
+    VarnelBeamProperties beam;
+    beam.setSection(section, 0);
+    defaults.setBeamProp(beam);
+    defaults.addToAsUser(nullptr);
     defaults.addToAsUser(&manager);
     EXPECT_FALSE(manager.getMaterialManager()->remove(material));
-    defaults.removeAsUser(&manager);
-    defaults.setPlateProp(VarnelPlateProperties());
-    defaults.addToAsUser(&manager);
-    EXPECT_TRUE(manager.getMaterialManager()->remove(material));
-    defaults.removeAsUser(&manager);
-    defaults.addToAsUser(nullptr);
+    EXPECT_FALSE(manager.getSectionManager()->remove(section));
+    EXPECT_FALSE(manager.getFoundationManager()->remove(foundation));
     defaults.removeAsUser(nullptr);
+    defaults.removeAsUser(&manager);
+    EXPECT_TRUE(manager.getMaterialManager()->remove(material));
+    EXPECT_TRUE(manager.getSectionManager()->remove(section));
+    EXPECT_TRUE(manager.getFoundationManager()->remove(foundation));
 }
 
 TEST_F(DefaultProperties, ForgetsTheThingsOfADyingManager) {
@@ -176,11 +219,18 @@ TEST_F(DefaultProperties, ForgetsTheThingsOfADyingManager) {
         manager.getSectionManager()->add(section);
         auto *foundation = new Found::Foundation(KzVector3D(1, 0, 0));
         manager.getFoundationManager()->add(foundation);
+        auto *beamSteel = new KzReinfSteel("T", 1, 1);
+        manager.getMaterialManager()->add(beamSteel);
+        auto *strands = new KzPreStressSteel("P", 1, 1);
+        manager.getMaterialManager()->add(strands);
+        auto *bars = new KzReinfLine(1, "B");
+        manager.getDgnList()->add(bars);
         auto *mesh = new KzReinfStockMesh("Q", 1, 1);
         manager.getDgnMeshList()->add(mesh);
         auto *loadcase = manager.giveLoadcaseToNumber(3, true);
         VarnelDesignData design;
         design.setReinforcement(steel);
+        design.setPrestressingSteel(strands);
         design.setBasicMeshL(mesh);
         design.setBasicMeshU(mesh);
         VarnelPlateProperties plate;
@@ -190,6 +240,8 @@ TEST_F(DefaultProperties, ForgetsTheThingsOfADyingManager) {
         defaults.setPlateProp(plate);
         VarnelBeamProperties beam;
         beam.setMaterial(&kept);
+        beam.setReinfSteel(beamSteel);
+        beam.setReinfLine(bars);
         beam.setSection(section, 0);
         beam.setSection(section, 1);
         beam.setFoundation(foundation);
@@ -209,9 +261,12 @@ TEST_F(DefaultProperties, ForgetsTheThingsOfADyingManager) {
     EXPECT_EQ(defaults.getPlateProp().getFoundation(), nullptr);
     ASSERT_NE(defaults.getPlateProp().getDesign(), nullptr);
     EXPECT_EQ(defaults.getPlateProp().getDesign()->getReinforcement(), nullptr);
+    EXPECT_EQ(defaults.getPlateProp().getDesign()->getPrestressingSteel(), nullptr);
     EXPECT_EQ(defaults.getPlateProp().getDesign()->getBasicMeshL(), nullptr);
     EXPECT_EQ(defaults.getPlateProp().getDesign()->getBasicMeshU(), nullptr);
     EXPECT_EQ(defaults.getBeamProp().getMaterial(), &kept) << "it is not the manager's";
+    EXPECT_EQ(defaults.getBeamProp().getReinSteel(), nullptr);
+    EXPECT_EQ(defaults.getBeamProp().getReinfLine(), nullptr);
     EXPECT_EQ(defaults.getBeamProp().getSection(0), nullptr);
     EXPECT_EQ(defaults.getBeamProp().getSection(1), nullptr);
     EXPECT_EQ(defaults.getBeamProp().getFoundation(), nullptr);

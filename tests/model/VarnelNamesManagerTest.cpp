@@ -7,6 +7,7 @@
 #include <string>
 
 #include "tests/support/VirtualSlot.h"
+#include "varnel/geometry/VarnelAreaPolygon.h"
 #include "varnel/geometry/VarnelStraight.h"
 #include "varnel/loads/VarnelAreaLoad.h"
 #include "varnel/loads/VarnelBeamLoad.h"
@@ -16,6 +17,7 @@
 #include "varnel/members/VarnelBeamProperties.h"
 #include "varnel/members/VarnelHole.h"
 #include "varnel/members/VarnelLineBoundary.h"
+#include "varnel/members/VarnelLineBoundaryData.h"
 #include "varnel/members/VarnelLoadDistributionArea.h"
 #include "varnel/members/VarnelPlate.h"
 #include "varnel/members/VarnelPlateProperties.h"
@@ -107,6 +109,45 @@ TEST(VarnelNamesManager, EachKindLooksAtItsOwnList) {
     EXPECT_FALSE(names.findObjectGroup("Group"));
 }
 
+TEST(VarnelNamesManager, NullEntriesHaveNoNames) {
+    Varnel model(nullptr);
+    model.add(static_cast<VarnelBeam *>(nullptr));
+    model.add(static_cast<VarnelPointLoad *>(nullptr));
+    model.add(static_cast<VarnelLineBoundary *>(nullptr));
+    VarnelNamesManager names(&model);
+    EXPECT_EQ(names.nextBeam(), "1");
+    EXPECT_EQ(names.nextLoad(), "L1");
+    EXPECT_EQ(names.nextLineBoundary(), "1");
+    EXPECT_FALSE(names.findBeam(""));
+    EXPECT_FALSE(names.findLineBoundary(""));
+}
+
+TEST(VarnelNamesManager, BoundariesOfPlateEdgesAreNotLookedAt) {
+    VarnelDB model(nullptr);
+    VarnelPlate *plate = model.givePlate(false);
+    plate->setArea(model.giveAreaPolygon({{0, 0, 0}, {4, 0, 0}, {4, 4, 0}}));
+    plate->setBoundary(0, VarnelLineBoundaryData(7, "1"));
+    model.add(plate);
+    ASSERT_NE(model.findLineBoundaryToName("1"), nullptr);
+    VarnelNamesManager names(&model);
+    EXPECT_EQ(names.nextLineBoundary(), "1");
+    EXPECT_FALSE(names.findLineBoundary("1"));
+}
+
+TEST(VarnelNamesManager, APlateThatIsNotAddedIsAvoidedByOneOfTheTwoWays) {
+    VarnelDB model(nullptr);
+    const std::unique_ptr<VarnelPlate> plate(model.givePlate(false));
+    plate->setName("1");
+    VarnelNamesManager names(&model);
+    EXPECT_EQ(names.nextPlate(), "2");
+    std::string name = "former";
+    names.nextPlateP(&name);
+    EXPECT_EQ(name, "1");
+    EXPECT_FALSE(names.findPlate("1"));
+    plate->setName("Roof");
+    EXPECT_EQ(names.nextPlate(), "1") << "a freed name is proposed again";
+}
+
 TEST(VarnelNamesManager, LoadsAreLookedAtButNotBeamLoads) {
     Varnel model(nullptr);
     model.giveBeamLoad()->setName("L1");
@@ -143,8 +184,15 @@ TEST(VarnelNamesManager, TemporaryNamesPlayNoPart) {
     EXPECT_FALSE(names.findLineBoundary("1"));
     names.removeTemporaryLineBoundary("1");
     names.resetTemporaryLineBoundary();
+}
+
+TEST(VarnelNamesManager, ACopyProposesForTheSameModel) {
+    Varnel model(nullptr);
+    addLineBoundary(model, "1");
+    const VarnelNamesManager names(&model);
     VarnelNamesManager copied(names);
-    EXPECT_EQ(copied.nextLineBoundary(), "1");
+    EXPECT_EQ(copied.nextLineBoundary(), "2");
+    EXPECT_EQ(copied.nextPlate(), "1");
 }
 
 TEST(VarnelNamesManager, AMissingModelHasNoNamesInUse) {

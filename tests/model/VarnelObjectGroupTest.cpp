@@ -105,6 +105,32 @@ TEST(VarnelObjectGroup, CopiesShareMembersAndResults) {
     }
 }
 
+TEST(VarnelObjectGroup, CopiesHaveListsOfTheirOwn) {
+    VarnelPoint point{KzVector3D()};
+    VarnelObjectGroup source("G");
+    source.add(&point);
+    VarnelObjectGroupResultState *state = source.giveResultState(3);
+    VarnelObjectGroup copied(source);
+    source.setChanged(false);
+    copied.remove(&point);
+    copied.removeResults();
+    EXPECT_FALSE(source.getChanged());
+    EXPECT_TRUE(source.hasObject(&point));
+    EXPECT_EQ(source.findResultState(3), state);
+    copied.setChanged(false);
+    copied.removeResults();
+    EXPECT_FALSE(copied.getChanged());
+}
+
+TEST(VarnelObjectGroup, AnEntryOfNothingIsAMemberLikeAnyOther) {
+    VarnelObjectGroup group("G");
+    group.add(nullptr);
+    group.add(nullptr);
+    EXPECT_TRUE(group.hasObject(nullptr));
+    group.remove(nullptr);
+    EXPECT_TRUE(group.getObjects().empty());
+}
+
 TEST(VarnelObjectGroup, VirtualOperationsStandInTheirSlots) {
     EXPECT_EQ(varnel::virtualSlot(&VarnelObjectGroup::getChanged), 0);
     EXPECT_EQ(varnel::virtualSlot(&VarnelObjectGroup::setChanged), 1);

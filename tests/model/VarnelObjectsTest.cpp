@@ -4,6 +4,7 @@
 #include <limits>
 #include <memory>
 #include <string>
+#include <typeinfo>
 #include <vector>
 
 #include "varnel/contracts/SysBase/Loadcase.h"
@@ -75,6 +76,28 @@ struct Row {
     bool load;
 };
 
+/// Adds an object twice, and to one of two groups, and removes it again.
+template <class T>
+void expectRemoved(const std::unique_ptr<T> &object, const std::list<T *> &(Varnel::*list)() const,
+                   bool isLoad) {
+    SCOPED_TRACE(typeid(T).name());
+    OpenModel model;
+    auto *group = new VarnelObjectGroup("A");
+    model.add(group);
+    model.add(new VarnelObjectGroup("B"));
+    model.add(object.get());
+    model.add(object.get());
+    group->add(object.get());
+    model.setChanged(false);
+    model.remove(object.get(), false);
+    EXPECT_TRUE((model.*list)().empty());
+    EXPECT_TRUE(group->getObjects().empty());
+    EXPECT_TRUE(group->getChanged());
+    EXPECT_TRUE(model.getObjectGroups().back()->getChanged());
+    EXPECT_TRUE(model.systemChanged()) << "a load that leaves marks the groups, too";
+    EXPECT_EQ(model.loadChanged(), isLoad);
+}
+
 void expectFlags(const std::vector<Row> &rows) {
     for (const Row &row : rows) {
         SCOPED_TRACE(row.name);
@@ -94,6 +117,9 @@ TEST(VarnelObjects, AddingMarksTheChangeOfItsKind) {
         {"plate", [](OpenModel &m) { m.add(new VarnelPlate(nullptr)); }, true, false},
         {"beam", [](OpenModel &m) { m.add(new VarnelBeam); }, true, false},
         {"hole", [](OpenModel &m) { m.add(new VarnelHole); }, true, false},
+        {"support", [](OpenModel &m) { m.add(new VarnelPointBoundary(KzVector3D(), 0, nullptr)); }, true,
+         false},
+        {"line boundary", [](OpenModel &m) { m.add(new VarnelLineBoundary(newLine())); }, true, false},
         {"refine polygon", [](OpenModel &m) { m.add(new VarnelRefinePolygon); }, true, false},
         {"group", [](OpenModel &m) { m.add(new VarnelObjectGroup("")); }, true, false},
         {"result section", [](OpenModel &m) { m.add(new VarnelResultSection(&m)); }, true, false},
@@ -139,6 +165,64 @@ TEST(VarnelObjects, RemovingAStrangerMarksTheChangeOfItsKind) {
         {"line load", [](OpenModel &m) { m.remove(new VarnelLineLoad(newLine()), true); }, false, true},
         {"outline", [](OpenModel &m) { m.remove(static_cast<VarnelArea *>(nullptr), true); }, false, false},
     });
+}
+
+TEST(VarnelObjects, WhatIsGivenAndAddedMarksTheChangeOfItsKind) {
+    expectFlags({
+        {"plate", [](OpenModel &m) { m.givePlate(true); }, true, false},
+        {"beam", [](OpenModel &m) { m.giveBeam(true); }, true, false},
+        {"support", [](OpenModel &m) { m.givePointBoundary(KzVector3D(), 0); }, true, false},
+        {"round column", [](OpenModel &m) { m.givePointBoundaryCircle(KzVector3D(), 0, 1); }, true, false},
+        {"column", [](OpenModel &m) { m.givePointBoundaryRectan(KzVector3D(), 0, 1, 1); }, true, false},
+        {"gap", [](OpenModel &m) { m.giveGap(); }, true, false},
+        {"point load", [](OpenModel &m) { m.givePointLoad(); }, false, true},
+        {"line load", [](OpenModel &m) { m.giveLineLoad(newLine()); }, false, true},
+        {"area load", [](OpenModel &m) { m.giveAreaLoad(); }, false, true},
+        {"beam load", [](OpenModel &m) { m.giveBeamLoad(); }, false, true},
+    });
+}
+
+TEST(VarnelObjects, RemovingTakesOutEveryEntryAndTheMembersOfGroups) {
+    expectRemoved(std::make_unique<VarnelPlate>(nullptr), &Varnel::getPlates, false);
+    expectRemoved(std::make_unique<VarnelBeam>(), &Varnel::getBeams, false);
+    expectRemoved(std::make_unique<VarnelHole>(), &Varnel::getHoles, false);
+    expectRemoved(std::make_unique<VarnelPointBoundary>(KzVector3D(), 0, nullptr),
+                  &Varnel::getPointBoundaries, false);
+    expectRemoved(std::make_unique<VarnelLineBoundary>(newLine()), &Varnel::getLineBoundaries, false);
+    expectRemoved(std::make_unique<VarnelAttributeArea>(), &Varnel::getAttributeAreas, false);
+    expectRemoved(std::make_unique<VarnelLoadDistributionArea>(), &Varnel::getLoadDistributionAreas, false);
+    expectRemoved(std::unique_ptr<VarnelLine>(newLine()), &Varnel::getLines, false);
+    expectRemoved(std::make_unique<VarnelPointLoad>(), &Varnel::getPointLoads, true);
+    expectRemoved(std::make_unique<VarnelLineLoad>(newLine()), &Varnel::getLineLoads, true);
+    expectRemoved(std::make_unique<VarnelAreaLoad>(), &Varnel::getAreaLoads, true);
+    expectRemoved(std::make_unique<VarnelBeamLoad>(), &Varnel::getBeamLoads, true);
+}
+
+TEST(VarnelObjects, SectionsPolygonsGapsAndGroupsLeaveTheGroupsAlone) {
+    OpenModel model;
+    VarnelResultSection section(&model);
+    VarnelRefinePolygon polygon;
+    VarnelObjectGroup other("B");
+    auto *group = new VarnelObjectGroup("A");
+    model.add(group);
+    model.add(&other);
+    for (int i = 0; i < 2; ++i) {
+        model.add(&section);
+        model.add(&polygon);
+    }
+    const std::unique_ptr<VarnelGap> gap(model.giveGap());
+    model.setChanged(false);
+    model.remove(&section, false);
+    model.remove(&polygon, false);
+    model.remove(gap.get());
+    model.remove(&other, false);
+    EXPECT_TRUE(model.getResultSections().empty());
+    EXPECT_TRUE(model.getRefinePolygons().empty());
+    EXPECT_TRUE(model.getGaps().empty());
+    EXPECT_EQ(model.getObjectGroups(), std::list<VarnelObjectGroup *>{group});
+    EXPECT_FALSE(group->getChanged());
+    EXPECT_TRUE(model.systemChanged());
+    EXPECT_FALSE(model.loadChanged());
 }
 
 TEST(VarnelObjects, OutlinesMarkAChangeThoughNothingIsAdded) {

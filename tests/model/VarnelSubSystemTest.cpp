@@ -10,10 +10,13 @@
 
 #include "tests/support/VirtualSlot.h"
 #include "varnel/contracts/SysBase/ConstructionStage.h"
+#include "varnel/contracts/Tools/Error.h"
+#include "varnel/geometry/VarnelPoint.h"
 #include "varnel/members/VarnelBeam.h"
 #include "varnel/members/VarnelHole.h"
 #include "varnel/model/VarnelDB.h"
 #include "varnel/process/VarnelFactory.h"
+#include "varnel/stages/VarnelBeamState.h"
 #include "varnel/stages/VarnelConstructionStage.h"
 
 namespace {
@@ -24,8 +27,19 @@ class Model : public VarnelDB {
   public:
     Model() : VarnelDB(nullptr) {}
     ~Model() override { dead += "model "; }
-    void initInstance() override { mode = getSystemMode(); }
+    void initInstance() override {
+        ++initialised;
+        mode = getSystemMode();
+        name = getDescription();
+    }
+    void copy(const Varnel &source) override {
+        copied = &source;
+        VarnelDB::copy(source);
+    }
+    int initialised = 0;
     int mode = -1;
+    std::string name;
+    const Varnel *copied = nullptr;
 };
 
 class Factory : public VarnelFactory {
@@ -37,6 +51,21 @@ class Factory : public VarnelFactory {
 class Stage : public SysBase::ConstructionStage {
   public:
     ~Stage() override { dead += "stage "; }
+};
+
+class State : public VarnelBeamState {
+  public:
+    using VarnelBeamState::VarnelBeamState;
+    ~State() override { dead += "state "; }
+};
+
+class StageWithStates : public VarnelConstructionStage {
+  public:
+    ~StageWithStates() override { dead += "stage "; }
+
+  protected:
+    using VarnelConstructionStage::createState;
+    VarnelBeamState *createState(VarnelBeam *beam) override { return new State(beam); }
 };
 
 class Child : public VarnelSubSystem {
@@ -52,11 +81,29 @@ TEST(VarnelSubSystem, MakesItsModelOnTheFactory) {
     VarnelSubSystem node("House", &factory, nullptr);
     const auto *model = dynamic_cast<Model *>(node.getDatabase());
     ASSERT_NE(model, nullptr);
+    EXPECT_EQ(model->initialised, 1);
     EXPECT_EQ(model->mode, 7) << "the mode is set before the model is initialised";
+    EXPECT_EQ(model->name, "") << "the name is set afterwards";
     EXPECT_EQ(model->getDescription(), "House");
     EXPECT_EQ(node.getOffset(), KzVector3D());
     EXPECT_TRUE(node.getChildren().empty());
     EXPECT_TRUE(node.getConstructionStages().empty());
+}
+
+TEST(VarnelSubSystem, AModelThatCannotBeInitialisedIsFreed) {
+    class Failing : public VarnelDB {
+      public:
+        Failing() : VarnelDB(nullptr) {}
+        ~Failing() override { dead += "model "; }
+        void initInstance() override { throw Tools::Error("no licence"); }
+    };
+    class FailingFactory : public VarnelFactory {
+        Varnel *giveDatabase() const override { return new Failing; }
+    };
+    const FailingFactory factory;
+    dead.clear();
+    EXPECT_THROW(VarnelSubSystem("House", &factory, nullptr), Tools::Error);
+    EXPECT_EQ(dead, "model ");
 }
 
 TEST(VarnelSubSystem, TheNameIsTheDescriptionOfTheModel) {
@@ -195,6 +242,22 @@ TEST(VarnelSubSystem, FoldsNestedFramesIntoOneBox) {
     EXPECT_EQ(max, KzVector3D(11, 6, 1)) << "the node's own frame is the caller's matter";
 }
 
+TEST(VarnelSubSystem, TheFrameOfTheParentTurnsThePlaceOfTheChild) {
+    const VarnelFactory factory;
+    VarnelSubSystem root("root", &factory, nullptr);
+    auto *child = new VarnelSubSystem("child", &factory, &root);
+    root.addChild(child);
+    child->setOffset(KzVector3D(10, 0, 0));
+    child->getDatabase()->givePoint(KzVector3D(1, 2, 0));
+    KzMatrix44 turned;  // its x is the global y
+    turned.setVector(0, KzVector3D(0, 1, 0));
+    turned.setVector(1, KzVector3D(-1, 0, 0));
+    KzVector3D min, max;
+    root.updateMinMax(min, max, turned);
+    EXPECT_EQ(min, KzVector3D(-2, 0, 0));
+    EXPECT_EQ(max, KzVector3D(0, 11, 0));
+}
+
 TEST(VarnelSubSystem, ACloneHasTheModelAndNoChildrenOrStages) {
     VarnelFactory factory;
     VarnelSubSystem root("root", &factory, nullptr);
@@ -210,6 +273,16 @@ TEST(VarnelSubSystem, ACloneHasTheModelAndNoChildrenOrStages) {
     EXPECT_TRUE(cloned->getConstructionStages().empty());
     EXPECT_EQ(cloned->getOffset(), KzVector3D());
     EXPECT_EQ(root.getChildren().size(), 1U);
+}
+
+TEST(VarnelSubSystem, ACloneIsFilledByTheModelsOwnWayOfCopying) {
+    const Factory factory;
+    VarnelSubSystem node("House", &factory, nullptr);
+    const std::unique_ptr<VarnelSubSystem> cloned(node.clone(&factory));
+    const auto *model = dynamic_cast<Model *>(cloned->getDatabase());
+    ASSERT_NE(model, nullptr);
+    EXPECT_EQ(model->copied, node.getDatabase());
+    EXPECT_EQ(model->mode, 7);
 }
 
 TEST(VarnelSubSystem, StagesAreGivenToNumbers) {
@@ -248,9 +321,13 @@ TEST(VarnelSubSystem, ARemovedStagePassesToTheCaller) {
     const VarnelFactory factory;
     VarnelSubSystem node("", &factory, nullptr);
     const std::unique_ptr<SysBase::ConstructionStage> stage(node.giveConstructionStageToNumber(4));
+    node.add(stage.get());
     node.remove(stage.get(), true);
-    EXPECT_TRUE(node.getConstructionStages().empty());
+    EXPECT_TRUE(node.getConstructionStages().empty()) << "every entry of it is taken out";
     EXPECT_EQ(stage->getNumber(), 4);
+    node.add(stage.get());
+    node.remove(stage.get(), false);
+    EXPECT_TRUE(node.getConstructionStages().empty());
 }
 
 TEST(VarnelSubSystem, DiesModelFirstThenChildrenThenStages) {
@@ -277,6 +354,21 @@ TEST(VarnelSubSystem, StatesOutliveTheObjectsOfTheModel) {
     node.getDatabase()->giveBeam(true);
     node.getDatabase()->storeCurrentCSTProperties(stage);
     EXPECT_EQ(stage->getObjectStates().size(), 1U);
+}
+
+TEST(VarnelSubSystem, AllStatesDieBeforeTheFirstStage) {
+    const Factory factory;
+    dead.clear();
+    {
+        VarnelSubSystem node("", &factory, nullptr);
+        VarnelBeam *beam = node.getDatabase()->giveBeam(true);
+        for (int i = 0; i < 2; ++i) {
+            auto *stage = new StageWithStates;
+            node.add(stage);
+            stage->giveState(beam);
+        }
+    }
+    EXPECT_EQ(dead, "model state state stage stage ");
 }
 
 TEST(VarnelSubSystem, ADeepTreeNeedsNoDeepStack) {

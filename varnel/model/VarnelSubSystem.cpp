@@ -14,12 +14,13 @@
 
 VarnelSubSystem::VarnelSubSystem(const std::string &name, const VarnelFactory *factory,
                                  VarnelSubSystem *parent)
-    : database_(factory ? factory->giveDatabase() : nullptr), parent_(parent) {
-    if (database_) {
-        database_->setSystemMode(factory->getMode());
-        database_->initInstance();
-    }
-    setName(name);
+    : parent_(parent) {
+    std::unique_ptr<Varnel> model(factory ? factory->giveDatabase() : nullptr);
+    if (!model) return;
+    model->setSystemMode(factory->getMode());
+    model->initInstance();
+    model->setDescription(name);
+    database_ = model.release();
 }
 
 VarnelSubSystem::VarnelSubSystem(const VarnelSubSystem &other)

@@ -62,6 +62,7 @@ VarnelManager::VarnelManager(VarnelFactory *factory)
     : implementation_(std::make_unique<Implementation>(this)),
       factory_(factory),
       projectPath_(Tools::getTempPath()) {
+    VarnelDefaultProperties::get();  // made first, so that they outlive this manager
     if (factory_) factory_->setManager(this);
     projectPath_.setFile("test");
     materialManager_ = std::make_unique<KzMaterialManager>("List");
