@@ -84,11 +84,12 @@ TEST(VarnelObjectGroup, CopiesShareMembersAndResults) {
     auto source = std::make_unique<VarnelObjectGroup>("G");
     source->add(&point);
     source->setUserDefined(false);
+    source->setCalculate(false);
     source->setOffset(KzVector3D(1, 0, 0));
     VarnelObjectGroupResultState *state = source->giveResultState(3);
     VarnelObjectGroup copied(*source);
     VarnelObjectGroup assigned("H");
-    assigned.giveResultState(5);
+    VarnelObjectGroupResultState *former = assigned.giveResultState(5);
     assigned = *source;
     const VarnelObjectGroup &same = assigned;
     assigned = same;
@@ -97,12 +98,13 @@ TEST(VarnelObjectGroup, CopiesShareMembersAndResults) {
         EXPECT_EQ(group->getName(), "G");
         EXPECT_TRUE(group->getChanged());
         EXPECT_FALSE(group->getUserDefined());
-        EXPECT_TRUE(group->getCalculate());
+        EXPECT_FALSE(group->getCalculate());
         EXPECT_EQ(group->getObjects(), std::list<VarnelObject *>{&point});
         EXPECT_EQ(group->getBase().getVector(3), KzVector3D(1, 0, 0));
         EXPECT_EQ(group->findResultState(3), state);
         EXPECT_EQ(group->findResultState(5), nullptr);
     }
+    EXPECT_TRUE(former->getNodalResults().empty()) << "it lives until the group dies";
 }
 
 TEST(VarnelObjectGroup, CopiesHaveListsOfTheirOwn) {

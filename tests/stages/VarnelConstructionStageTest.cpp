@@ -249,11 +249,13 @@ TEST(VarnelConstructionStage, UnrelatedStagesMayHoldOneState) {
     HostStage second;
     second.next = state;
     EXPECT_EQ(state, second.giveState(&beam));
+    second.next = nullptr;
     *state = VarnelBeamState(&other);
     EXPECT_EQ(state, first.giveState(&other));
     EXPECT_EQ(state, second.giveState(&other));
     first.removeStates();
     EXPECT_EQ(state, second.giveState(&other));
+    EXPECT_EQ(States{state}, second.getObjectStates());
 }
 
 TEST(VarnelConstructionStage, AnswersAsAPlainWalkDoes) {

@@ -63,7 +63,7 @@ VarnelLineLoadState *VarnelConstructionStage::giveState(VarnelLineLoad *load) {
 
 void VarnelConstructionStage::removeStates() {
     table_.clear();
-    // The states may live on in a copy of this stage, whose table must hear of them, and this one not.
+    // The states may live on in a copy of this stage, whose table must hear of them; this one need not.
     watch_.reset();
     tabulated_ = 0;
     tabulable_ = true;
