@@ -38,7 +38,7 @@ class LateLocation : public VarnelResultSectionLocation {
 };
 
 /// A host's factory, which may decline to make a section.
-class HostFactory : public VarnelDatabaseFactory {
+class HostFactory final : public VarnelDatabaseFactory {
   public:
     VarnelResultSection *giveResultSection(Varnel *model) override {
         asked = model;
