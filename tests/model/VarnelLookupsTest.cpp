@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <iterator>
 #include <list>
 #include <memory>
 #include <random>
@@ -72,6 +73,35 @@ void expectLoadFoundToName(const Varnel &model, const std::list<T *> &list, Find
 
 }  // namespace
 
+TEST(VarnelLookups, EachCounterCountsItsOwnList) {
+    Varnel model(nullptr);
+    const auto addNulls = [&model](auto *none, int count) {
+        for (int i = 0; i < count; ++i) model.add(none);
+    };
+    for (int i = 0; i < 10; ++i) model.givePoint(KzVector3D(i, 0, 0));
+    addNulls(static_cast<VarnelPlate *>(nullptr), 1);
+    addNulls(static_cast<VarnelBeam *>(nullptr), 2);
+    addNulls(static_cast<VarnelHole *>(nullptr), 3);
+    addNulls(static_cast<VarnelPointLoad *>(nullptr), 4);
+    addNulls(static_cast<VarnelLineLoad *>(nullptr), 5);
+    addNulls(static_cast<VarnelAreaLoad *>(nullptr), 6);
+    addNulls(static_cast<VarnelBeamLoad *>(nullptr), 7);
+    addNulls(static_cast<VarnelPointBoundary *>(nullptr), 8);
+    addNulls(static_cast<VarnelLineBoundary *>(nullptr), 9);
+    EXPECT_EQ(model.getNumberOfPlates(), 1) << "null entries count, too";
+    EXPECT_EQ(model.getNumberOfBeams(), 2);
+    EXPECT_EQ(model.getNumberOfHoles(), 3);
+    EXPECT_EQ(model.getNumberOfPointLoads(), 4);
+    EXPECT_EQ(model.getNumberOfLineLoads(), 5);
+    EXPECT_EQ(model.getNumberOfAreaLoads(), 6);
+    EXPECT_EQ(model.getNumberOfBeamLoads(), 7);
+    EXPECT_EQ(model.getNumberOfPointBoundaries(), 8);
+    EXPECT_EQ(model.getNumberOfLineBoundaries(), 9);
+    EXPECT_EQ(model.getNumberOfPoints(), 10);
+    EXPECT_EQ(model.getNumberOfWalls(), 9);
+    EXPECT_EQ(model.getNumberOfBeamJoints(), 0);
+}
+
 TEST(VarnelLookups, FindsTheFirstOfEachKindToItsNumber) {
     VarnelDB model(nullptr);
     for (int i = 0; i < 3; ++i) {
@@ -128,6 +158,28 @@ TEST(VarnelLookups, NamesCompareToTheByte) {
     EXPECT_EQ(model.findLineBoundaryToName("W"), nullptr);
     EXPECT_EQ(model.findLineBoundaryToName(std::string("W\0x", 3)), &data);
     EXPECT_EQ(model.findToName<VarnelLineBoundaryData>(std::string("W\0x", 3)), &data);
+}
+
+TEST(VarnelLookups, TheFirstOfANameIsFound) {
+    VarnelDB model(nullptr);
+    VarnelLineBoundaryData data[2] = {{0, "A"}, {0, "A"}};
+    model.add(static_cast<VarnelPlate *>(nullptr));
+    model.add(static_cast<VarnelBeam *>(nullptr));
+    model.add(static_cast<VarnelPointBoundary *>(nullptr));
+    model.add(static_cast<VarnelObjectGroup *>(nullptr));
+    model.add(static_cast<VarnelLineBoundaryData *>(nullptr));
+    for (VarnelLineBoundaryData &record : data) {
+        model.givePlate(true)->setName("A");
+        model.giveBeam(true)->setName("A");
+        model.givePointBoundary(KzVector3D(), 0)->setName("A");
+        model.add(new VarnelObjectGroup("A"));
+        model.add(&record);
+    }
+    EXPECT_EQ(model.findPlateToName("A"), *std::next(model.getPlates().begin()));
+    EXPECT_EQ(model.findBeamToName("A"), *std::next(model.getBeams().begin()));
+    EXPECT_EQ(model.findPointBoundaryToName("A"), *std::next(model.getPointBoundaries().begin()));
+    EXPECT_EQ(model.findObjectGroupToName("A"), *std::next(model.getObjectGroups().begin()));
+    EXPECT_EQ(model.findLineBoundaryToName("A"), &data[0]);
 }
 
 TEST(VarnelLookups, LoadsAreFoundToNameAmongTheDeadOrTheLive) {

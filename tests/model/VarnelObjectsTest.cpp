@@ -30,6 +30,7 @@
 #include "varnel/members/VarnelRefinePolygon.h"
 #include "varnel/model/VarnelDB.h"
 #include "varnel/model/VarnelObjectGroup.h"
+#include "varnel/process/VarnelDatabaseFactory.h"
 #include "varnel/results/VarnelResultSection.h"
 
 namespace {
@@ -298,6 +299,33 @@ TEST(VarnelObjects, APlateThatIsNotAddedHasItsNameRegistered) {
     EXPECT_TRUE(model.getPlates().empty());
 }
 
+TEST(VarnelObjects, PlatesAndBeamsAreMadeByTheFactoryAndNamedWithTheirNumber) {
+    class Plate : public VarnelPlate {
+      public:
+        Plate() : VarnelPlate(nullptr) {}
+        void setDefaultName() override {
+            const bool listed = getParent()->contains(this);
+            setName((listed ? "listed " : "new ") + std::to_string(getNumber()));
+        }
+    };
+    class Beam : public VarnelBeam {};
+    class Factory final : public VarnelDatabaseFactory {
+        VarnelPlate *givePlate() override { return new Plate; }
+        VarnelBeam *giveBeam() override { return new Beam; }
+    };
+    class Model : public Varnel {
+      public:
+        Model() : Varnel(nullptr) { setDBaseFactory(std::make_shared<Factory>()); }
+    } model;
+    EXPECT_EQ(model.givePlate(true)->getName(), "new 1");
+    EXPECT_EQ(model.givePlate(true)->getName(), "new 2");
+    EXPECT_TRUE(model.hasPlatewithName("new 2"));
+    EXPECT_NE(dynamic_cast<Beam *>(model.giveBeam(true)), nullptr);
+    const std::unique_ptr<VarnelBeam> free(model.giveBeam(KzVector3D(), KzVector3D(1, 0, 0)));
+    EXPECT_NE(dynamic_cast<Beam *>(free.get()), nullptr);
+    EXPECT_EQ(free->getNumber(), 2);
+}
+
 TEST(VarnelObjects, ABeamBetweenTwoPlacesIsNotAdded) {
     VarnelDB model(nullptr);
     const std::unique_ptr<VarnelBeam> beam(model.giveBeam(KzVector3D(1, 0, 0), KzVector3D(3, 0, 0)));
@@ -310,7 +338,12 @@ TEST(VarnelObjects, SupportsOnColumns) {
     Varnel model(nullptr);
     VarnelPointBoundaryCircle *circle = model.givePointBoundaryCircle(KzVector3D(1, 0, 0), 7, 0.4);
     VarnelPointBoundaryRectan *rectangle = model.givePointBoundaryRectan(KzVector3D(2, 0, 0), 3, 0.2, 0.6);
+    EXPECT_EQ(model.givePointBoundary(KzVector3D(3, 0, 0), 5)->getDof(), 5);
+    model.remove(model.getPointBoundaries().back(), true);
+    EXPECT_EQ(circle->getCoor(), KzVector3D(1, 0, 0));
+    EXPECT_EQ(circle->getDof(), 7);
     EXPECT_EQ(circle->getD(), 0.4);
+    EXPECT_EQ(rectangle->getCoor(), KzVector3D(2, 0, 0));
     EXPECT_EQ(rectangle->getB(), 0.2);
     EXPECT_EQ(rectangle->getD(), 0.6);
     EXPECT_EQ(rectangle->getDof(), 3);
