@@ -206,8 +206,7 @@ TEST_F(DefaultProperties, ProtectsResourcesOfAManagerOnlyWhileItIsRegistered) {
     EXPECT_TRUE(manager.getFoundationManager()->remove(foundation));
 }
 
-TEST_F(DefaultProperties, ForgetsTheThingsOfADyingManager) {
-    KzMaterial kept("kept", 1, 1);
+TEST_F(DefaultProperties, ThePlateForgetsTheThingsOfADyingManager) {
     {
         VarnelFactory factory;
         VarnelManager manager(&factory);
@@ -215,19 +214,12 @@ TEST_F(DefaultProperties, ForgetsTheThingsOfADyingManager) {
         manager.getMaterialManager()->add(material);
         auto *steel = new KzMaterialReinforcement("R", 1, 1);
         manager.getMaterialManager()->add(steel);
-        auto *section = new SDBSectionLine("S", 1);
-        manager.getSectionManager()->add(section);
-        auto *foundation = new Found::Foundation(KzVector3D(1, 0, 0));
-        manager.getFoundationManager()->add(foundation);
-        auto *beamSteel = new KzReinfSteel("T", 1, 1);
-        manager.getMaterialManager()->add(beamSteel);
         auto *strands = new KzPreStressSteel("P", 1, 1);
         manager.getMaterialManager()->add(strands);
-        auto *bars = new KzReinfLine(1, "B");
-        manager.getDgnList()->add(bars);
+        auto *foundation = new Found::Foundation(KzVector3D(1, 0, 0));
+        manager.getFoundationManager()->add(foundation);
         auto *mesh = new KzReinfStockMesh("Q", 1, 1);
         manager.getDgnMeshList()->add(mesh);
-        auto *loadcase = manager.giveLoadcaseToNumber(3, true);
         VarnelDesignData design;
         design.setReinforcement(steel);
         design.setPrestressingSteel(strands);
@@ -238,15 +230,58 @@ TEST_F(DefaultProperties, ForgetsTheThingsOfADyingManager) {
         plate.setFoundation(foundation);
         plate.setDesign(&design);
         defaults.setPlateProp(plate);
+    }
+    const VarnelPlateProperties &plate = defaults.getPlateProp();
+    EXPECT_EQ(plate.getMaterial(), nullptr);
+    EXPECT_EQ(plate.getFoundation(), nullptr);
+    ASSERT_NE(plate.getDesign(), nullptr);
+    EXPECT_EQ(plate.getDesign()->getReinforcement(), nullptr);
+    EXPECT_EQ(plate.getDesign()->getPrestressingSteel(), nullptr);
+    EXPECT_EQ(plate.getDesign()->getBasicMeshL(), nullptr);
+    EXPECT_EQ(plate.getDesign()->getBasicMeshU(), nullptr);
+}
+
+TEST_F(DefaultProperties, TheBeamForgetsTheThingsOfADyingManager) {
+    KzMaterial kept("kept", 1, 1);
+    {
+        VarnelFactory factory;
+        VarnelManager manager(&factory);
+        auto *steel = new KzReinfSteel("T", 1, 1);
+        manager.getMaterialManager()->add(steel);
+        auto *section = new SDBSectionLine("S", 1);
+        manager.getSectionManager()->add(section);
+        auto *foundation = new Found::Foundation(KzVector3D(1, 0, 0));
+        manager.getFoundationManager()->add(foundation);
+        auto *bars = new KzReinfLine(1, "B");
+        manager.getDgnList()->add(bars);
+        VarnelDesignData design;
+        design.setReinforcement(steel);
         VarnelBeamProperties beam;
         beam.setMaterial(&kept);
-        beam.setReinfSteel(beamSteel);
+        beam.setReinfSteel(steel);
         beam.setReinfLine(bars);
         beam.setSection(section, 0);
         beam.setSection(section, 1);
         beam.setFoundation(foundation);
         beam.setDesign(&design);
         defaults.setBeamProp(beam);
+    }
+    const VarnelBeamProperties &beam = defaults.getBeamProp();
+    EXPECT_EQ(beam.getMaterial(), &kept) << "it is not the manager's";
+    EXPECT_EQ(beam.getReinSteel(), nullptr);
+    EXPECT_EQ(beam.getReinfLine(), nullptr);
+    EXPECT_EQ(beam.getSection(0), nullptr);
+    EXPECT_EQ(beam.getSection(1), nullptr);
+    EXPECT_EQ(beam.getFoundation(), nullptr);
+    ASSERT_NE(beam.getDesign(), nullptr);
+    EXPECT_EQ(beam.getDesign()->getReinforcement(), nullptr);
+}
+
+TEST_F(DefaultProperties, TheLoadsForgetTheCaseOfADyingManager) {
+    {
+        VarnelFactory factory;
+        VarnelManager manager(&factory);
+        auto *loadcase = manager.giveLoadcaseToNumber(3, true);
         VarnelPointLoad point;
         point.setLoadcase(loadcase);
         defaults.setPointLoad(point);
@@ -257,20 +292,6 @@ TEST_F(DefaultProperties, ForgetsTheThingsOfADyingManager) {
         line.setLoadcase(loadcase);
         defaults.setLineLoad(line);
     }
-    EXPECT_EQ(defaults.getPlateProp().getMaterial(), nullptr);
-    EXPECT_EQ(defaults.getPlateProp().getFoundation(), nullptr);
-    ASSERT_NE(defaults.getPlateProp().getDesign(), nullptr);
-    EXPECT_EQ(defaults.getPlateProp().getDesign()->getReinforcement(), nullptr);
-    EXPECT_EQ(defaults.getPlateProp().getDesign()->getPrestressingSteel(), nullptr);
-    EXPECT_EQ(defaults.getPlateProp().getDesign()->getBasicMeshL(), nullptr);
-    EXPECT_EQ(defaults.getPlateProp().getDesign()->getBasicMeshU(), nullptr);
-    EXPECT_EQ(defaults.getBeamProp().getMaterial(), &kept) << "it is not the manager's";
-    EXPECT_EQ(defaults.getBeamProp().getReinSteel(), nullptr);
-    EXPECT_EQ(defaults.getBeamProp().getReinfLine(), nullptr);
-    EXPECT_EQ(defaults.getBeamProp().getSection(0), nullptr);
-    EXPECT_EQ(defaults.getBeamProp().getSection(1), nullptr);
-    EXPECT_EQ(defaults.getBeamProp().getFoundation(), nullptr);
-    EXPECT_EQ(defaults.getBeamProp().getDesign()->getReinforcement(), nullptr);
     EXPECT_EQ(defaults.getPointLoad().getLoadcase(), nullptr);
     EXPECT_EQ(defaults.getAreaLoad().getLoadcase(), nullptr);
     EXPECT_EQ(defaults.getLineLoad().getLoadcase(), nullptr);
