@@ -242,7 +242,7 @@ TEST_F(DefaultProperties, ThePlateForgetsTheThingsOfADyingManager) {
 }
 
 TEST_F(DefaultProperties, TheBeamForgetsTheThingsOfADyingManager) {
-    KzMaterial kept("kept", 1, 1);
+    KzPreStressSteel kept("kept", 1, 1);
     {
         VarnelFactory factory;
         VarnelManager manager(&factory);
@@ -256,8 +256,9 @@ TEST_F(DefaultProperties, TheBeamForgetsTheThingsOfADyingManager) {
         manager.getDgnList()->add(bars);
         VarnelDesignData design;
         design.setReinforcement(steel);
+        design.setPrestressingSteel(&kept);
         VarnelBeamProperties beam;
-        beam.setMaterial(&kept);
+        beam.setMaterial(steel);
         beam.setReinfSteel(steel);
         beam.setReinfLine(bars);
         beam.setSection(section, 0);
@@ -267,7 +268,7 @@ TEST_F(DefaultProperties, TheBeamForgetsTheThingsOfADyingManager) {
         defaults.setBeamProp(beam);
     }
     const VarnelBeamProperties &beam = defaults.getBeamProp();
-    EXPECT_EQ(beam.getMaterial(), &kept) << "it is not the manager's";
+    EXPECT_EQ(beam.getMaterial(), nullptr);
     EXPECT_EQ(beam.getReinSteel(), nullptr);
     EXPECT_EQ(beam.getReinfLine(), nullptr);
     EXPECT_EQ(beam.getSection(0), nullptr);
@@ -275,6 +276,7 @@ TEST_F(DefaultProperties, TheBeamForgetsTheThingsOfADyingManager) {
     EXPECT_EQ(beam.getFoundation(), nullptr);
     ASSERT_NE(beam.getDesign(), nullptr);
     EXPECT_EQ(beam.getDesign()->getReinforcement(), nullptr);
+    EXPECT_EQ(beam.getDesign()->getPrestressingSteel(), &kept) << "it is not the manager's";
 }
 
 TEST_F(DefaultProperties, TheLoadsForgetTheCaseOfADyingManager) {
