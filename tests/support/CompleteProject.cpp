@@ -25,10 +25,6 @@ KzMatrix44 tiltedFrame() {
 
 }  // namespace
 
-VarnelExchange *CompleteProject::Factory::giveExchange() const {
-    return new VarnelExchangeXml;
-}
-
 CompleteProject::CompleteProject() {
     manager.setLoadcaseAutomation(false);
     manager.setSystemBoundary(4);

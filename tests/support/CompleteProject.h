@@ -20,10 +20,6 @@ class CompleteProject {
     std::string write();
 
   private:
-    class Factory : public recording::Factory {
-        VarnelExchange *giveExchange() const override;
-    };
-
     void addResources();
     void addPlates();
     void addBeams();
@@ -35,7 +31,7 @@ class CompleteProject {
     void addStages();
     void addResults();
 
-    Factory factory_;
+    recording::DocumentFactory factory_;
 
   public:
     VarnelManager manager{&factory_};

@@ -1,5 +1,7 @@
 #include "tests/support/RandomModel.h"
 
+#include <utility>
+
 #include "varnel/contracts/Design/ShearData.h"
 #include "varnel/varnel.h"
 
@@ -29,14 +31,105 @@ RandomModel::RandomModel(VarnelManager &manager, unsigned seed, bool exact)
     : manager_(manager), random_(seed), exact_(exact) {}
 
 void RandomModel::fill() {
+    setSwitches();
+    addResources();
+    addLoadcases();
+    fillSubSystem(*manager_.getCurrentSubSystem(), 0);
+    addStages();
+}
+
+void RandomModel::setSwitches() {
     manager_.setLoadcaseAutomation(random_.oneIn(2));
     manager_.setSystemBoundary(random_.below(7));
     manager_.setOwnWeight(random_.oneIn(2));
     manager_.enableUseQuadraticShape(random_.oneIn(2));
     manager_.setDesignLocation(random_.below(3));
-    addResources();
-    fillSubSystem(*manager_.getCurrentSubSystem(), 0);
-    addStages();
+    manager_.enableCalculation(random_.oneIn(2));
+    manager_.enableUseEquidistantBeamParts(random_.oneIn(2));
+}
+
+void RandomModel::addLoadcases() {
+    for (int i = random_.below(4); i > 0; --i) {
+        SysBase::Loadcase *loadcase = manager_.giveLoadcaseToNumber(1 + random_.below(9), true);
+        loadcase->setName(name());
+        loadcase->setType(random_.below(4));
+        loadcase->setOwnWeight(random_.oneIn(2));
+        loadcase->setPrimary(!random_.oneIn(4));
+        loadcase->enableCalculateEigen(random_.oneIn(4));
+    }
+    manager_.setCurrentLoadcase(random_.below(10));
+}
+
+void RandomModel::setProcessDefaults() {
+    KzStandard::get()->setMode(random_.below(3));
+    VarnelDefaultProperties &defaults = *VarnelDefaultProperties::get();
+    VarnelLineBoundaryData support(random_.below(9), name());
+    support.setWidth(value());
+    support.setLocal(random_.oneIn(2));
+    support.setType(random_.below(3));
+    setSupport(support);
+    defaults.setLBData(support);
+
+    VarnelPlateProperties plate;
+    plate.setName(name());
+    plate.setThick(value());
+    plate.setMeshSizeX(value());
+    plate.setMeshSizeY(value());
+    plate.setMinMeshSize(value());
+    plate.setMeshAngle(value());
+    plate.setAutoMeshSize(random_.oneIn(2));
+    plate.setElementType(random_.below(4));
+    plate.setMeshType(random_.below(4));
+    plate.setMaterial(material());
+    const VarnelDesignData record = design();
+    plate.setDesign(random_.oneIn(2) ? &record : nullptr);
+    defaults.setPlateProp(plate);
+
+    VarnelBeamProperties beam;
+    beam.setName(name());
+    beam.setAngle(value());
+    beam.setParts(1 + random_.below(9));
+    beam.setElementType(random_.below(4));
+    beam.setBeamType(random_.below(4));
+    beam.setMaterial(material());
+    beam.setSection(sectionOf(manager_.getSectionManager(), "own 20/45"), 0);
+    beam.setOffset(point(), 0);
+    defaults.setBeamProp(beam);
+
+    VarnelPointBoundaryData column(random_.below(9), {});
+    column.setName(name());
+    if (!exact_) column.setAngle(random_.unit(), 2);
+    setSupport(column);
+    defaults.setPBData(column);
+
+    VarnelHole hole;
+    hole.setName(name());
+    hole.setLoadDistribution(random_.oneIn(2));
+    defaults.setHole(hole);
+    VarnelLoadDistributionArea area;
+    area.setName(name());
+    defaults.setLDA(area);
+    setDefaultLoads();
+}
+
+void RandomModel::setDefaultLoads() {
+    VarnelDefaultProperties &defaults = *VarnelDefaultProperties::get();
+    VarnelPointLoad pointLoad;
+    setLoad(pointLoad);
+    pointLoad.setForce(vector());
+    pointLoad.setMoment(vector());
+    pointLoad.setDispLoad(random_.oneIn(2));
+    defaults.setPointLoad(pointLoad);
+    VarnelAreaLoad areaLoad;
+    setLoad(areaLoad);
+    areaLoad.setP(vector());
+    defaults.setAreaLoad(areaLoad);
+    VarnelLineLoadData lineLoad;
+    lineLoad.setName(name());
+    lineLoad.setType(random_.below(3));
+    lineLoad.setP1(vector());
+    lineLoad.setM2(vector());
+    defaults.setLineLoad(lineLoad);
 }
 
 void RandomModel::addResources() {
@@ -49,10 +142,6 @@ void RandomModel::addResources() {
     manager_.getDgnList()->findBeamReinf(3)->setSection(sectionOf(manager_.getSectionManager(), "own 20/45"));
     if (random_.oneIn(2)) manager_.giveFoundation(nullptr, KzVector3D(value(), 2, 3));
     if (random_.oneIn(2)) manager_.giveFoundation(nullptr, KzVector3D(0, 0, 1e5));
-    for (int i = random_.below(4); i > 0; --i) {
-        SysBase::Loadcase *loadcase = manager_.giveLoadcaseToNumber(1 + random_.below(9), true);
-        loadcase->setName(name());
-    }
 }
 
 void RandomModel::fillSubSystem(VarnelSubSystem &subSystem, int depth) {
@@ -67,6 +156,9 @@ void RandomModel::fillSubSystem(VarnelSubSystem &subSystem, int depth) {
         &RandomModel::addResultSection, &RandomModel::addWhatIsNotWritten,
     };
     model_ = subSystem.getDatabase();
+    model_->setSystemMode(random_.below(9));
+    model_->setNumberOfBeamLocations(random_.below(9));
+    model_->setAcceleration(vector());
     for (int i = random_.below(depth == 0 ? 9 : 4); i > 0; --i) (this->*random_.of(adders))();
     for (int i = random_.below(3); i > 0; --i) addGroup(depth > 0);
     if (depth == 3) return;
@@ -95,7 +187,11 @@ void RandomModel::addPlate() {
     if (!foundations.empty() && random_.oneIn(2)) plate->setFoundation(random_.of(foundations));
     addEdges(*plate);
     addPlateLoads(*plate);
-    if (random_.oneIn(2)) addDesign(*plate);
+    plate->setActive(!random_.oneIn(4));
+    if (random_.oneIn(4)) plate->giveResultPosition(1.0, 2.0, 0.0);
+    if (random_.oneIn(2)) return;
+    const VarnelDesignData record = design();
+    plate->setDesign(&record);
 }
 
 void RandomModel::addEdges(VarnelPlate &plate) {
@@ -122,11 +218,12 @@ void RandomModel::addPlateLoads(VarnelPlate &plate) {
         VarnelAreaLoad *load = plate.giveAreaLoad(type, random_.oneIn(2) ? loadcase : nullptr);
         load->setName(name());
         load->setType(random_.below(2));
+        load->getData().setTransmissionType(random_.below(3));
         load->setP(vector());
     }
 }
 
-void RandomModel::addDesign(VarnelPlate &plate) {
+VarnelDesignData RandomModel::design() {
     VarnelDesignData design{exact_ ? 0.0 : random_.unit() * 6.0 - 3.0, value(), value(), value(), value()};
     design.setCnom(value());
     design.setMinimumSteel(value());
@@ -142,7 +239,8 @@ void RandomModel::addDesign(VarnelPlate &plate) {
     design.setShearReinfStrength(value());
     design.setShearJointSurface(random_.below(4));
     design.setStressDesignType(random_.below(3));
-    plate.setDesign(&design);
+    design.setPrestressingSteel(KzMaterialHandler::get()->findPreStressSteelToName("St1570/1770", 0));
+    return design;
 }
 
 void RandomModel::addBeam() {
@@ -171,6 +269,10 @@ void RandomModel::addBeam() {
     if (random_.oneIn(4)) beam->add(new VarnelJoint(0.5, 1));
     if (random_.oneIn(4)) beam->setOffset(point(), 0);
     if (random_.oneIn(4)) beam->setActive(false);
+    if (random_.oneIn(4)) beam->setFireExposed(true);
+    if (beam->getLeftGap()) beam->getLeftGap()->setThick(value());
+    const VarnelDesignData record = design();
+    if (random_.oneIn(4)) beam->setDesign(&record);
     addBeamResources(*beam);
 }
 
@@ -245,10 +347,19 @@ void RandomModel::addPointBoundary() {
     setSupport(boundary->getData());
     boundary->setActive(random_.oneIn(2));
     boundary->setTypInd(random_.below(3));
+    boundary->getData().setHeight(value());
+}
+
+/// Now and then along an edge of a plate, which then shares the support.
+VarnelLine *RandomModel::wallLine() {
+    const VarnelPlate *plate = oneOf(random_, std::as_const(*model_).getPlates());
+    const VarnelLine *edge = plate && plate->getGeo() ? plate->getGeo()->getLine(0) : nullptr;
+    if (!edge || random_.oneIn(2)) return line(true);
+    return new VarnelStraight(edge->getStartVec(), edge->getEndVec());
 }
 
 void RandomModel::addLineBoundary() {
-    auto *boundary = new VarnelLineBoundary(line(true));
+    auto *boundary = new VarnelLineBoundary(wallLine());
     model_->add(boundary);
     if (random_.oneIn(2)) boundary->setName(name());
     boundary->getData().setDof(random_.below(9));
@@ -285,6 +396,7 @@ void RandomModel::addPointLoad() {
     load->setMoment(vector());
     load->setAngle(random_.oneIn(2) ? 0.5 : 0.0, 2);
     load->setDispLoad(random_.oneIn(2));
+    load->setActive(random_.oneIn(2));
 }
 
 void RandomModel::addLineLoad() {
@@ -296,6 +408,7 @@ void RandomModel::addLineLoad() {
     load->setM2(vector());
     load->setLocsys(direction());
     load->setLocsysType(random_.below(4));
+    load->setActive(random_.oneIn(2));
 }
 
 void RandomModel::addAreaLoad() {
@@ -311,6 +424,7 @@ void RandomModel::addResultSection() {
     VarnelResultSection *section = model_->giveResultSection(start, point());
     section->setName(name());
     section->setInPlane(random_.oneIn(2));
+    section->getLocations().push_back(new VarnelResultSectionLocation(0.5));
     model_->add(section);
 }
 
@@ -348,7 +462,9 @@ void RandomModel::addWhatIsNotWritten() {
     if (random_.oneIn(2)) model_->add(static_cast<VarnelBeam *>(nullptr));
     if (random_.oneIn(2)) model_->add(static_cast<VarnelAreaLoad *>(nullptr));
     if (random_.oneIn(2)) model_->add(static_cast<VarnelPointBoundary *>(nullptr));
-    if (random_.oneIn(4)) model_->giveGap();
+    if (random_.oneIn(4)) model_->add(new VarnelStraight{point(), point()});
+    if (random_.oneIn(8)) model_->giveGap();
+    if (random_.oneIn(4)) model_->add(new VarnelRefinePolygon);
 }
 
 /// States of objects of the root and its children: deeper ones are not found again.
@@ -375,6 +491,24 @@ void RandomModel::addStages() {
                 stage->giveState(load)->setActive(random_.oneIn(2));
         }
     }
+}
+
+void RandomModel::addResults() {
+    addResultsTo(*manager_.getDatabase());
+    for (const VarnelSubSystem *child : manager_.getCurrentSubSystem()->getChildren())
+        addResultsTo(*child->getDatabase());
+}
+
+void RandomModel::addResultsTo(Varnel &model) {
+    for (VarnelBeam *beam : model.getBeams()) {
+        if (!beam || random_.oneIn(2)) continue;
+        SysBase::BeamResultState *state = beam->giveResultState(1 + random_.below(3));
+        for (int i = 0; i < 3; ++i) {
+            state->add(new SysBase::BeamDeformationsLocation(0.5 * i, vector()));
+            state->add(new SysBase::BeamStressResultantsLocation(0.5 * i, value()));
+        }
+    }
+    for (VarnelObjectGroup *group : model.getObjectGroups()) group->giveResultState(1);
 }
 
 /// A coordinate within 50 m of the origin.

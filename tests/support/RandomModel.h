@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "varnel/contracts/KzVector3D.h"
+#include "varnel/members/VarnelDesignData.h"
 #include "varnel/model/Varnel.h"
 #include "varnel/process/VarnelManager.h"
 
@@ -39,8 +40,8 @@ class Random {
     std::mt19937 engine_;
 };
 
-/// Fills a project with small models of all kinds of objects, in subsystems up to three deep. The same seed
-/// makes the same project.
+/// Fills a project with small models of all kinds of objects, in subsystems up to three deep, with what a
+/// document keeps and what it loses. The same seed makes the same project.
 class RandomModel {
   public:
     /// With `exact` all places are multiples of a quarter and nothing is turned, so that no number of a
@@ -48,14 +49,21 @@ class RandomModel {
     RandomModel(VarnelManager &manager, unsigned seed, bool exact);
 
     void fill();
+    /// What a process has once: the templates of new objects, with things of the project, and the standard.
+    void setProcessDefaults();
+
+    /// Load cases and results, as a calculation leaves them: they mark no change.
+    void addResults();
 
   private:
+    void setDefaultLoads();
+    void setSwitches();
+    void addLoadcases();
     void addResources();
     void fillSubSystem(VarnelSubSystem &subSystem, int depth);
     void addPlate();
     void addEdges(VarnelPlate &plate);
     void addPlateLoads(VarnelPlate &plate);
-    void addDesign(VarnelPlate &plate);
     void addBeam();
     void addBeamResources(VarnelBeam &beam);
     void addSpan(VarnelBeam &beam);
@@ -71,6 +79,7 @@ class RandomModel {
     void addGroup(bool nested);
     void addWhatIsNotWritten();
     void addStages();
+    void addResultsTo(Varnel &model);
     void setSupport(VarnelBoundaryData &data);
     void setLoad(VarnelLoad &load);
 
@@ -81,7 +90,9 @@ class RandomModel {
     KzVector3D direction();
     std::string name();
     KzMaterial *material();
+    VarnelDesignData design();
     VarnelLine *line(bool maybeNone);
+    VarnelLine *wallLine();
     VarnelArea *outline();
 
     VarnelManager &manager_;

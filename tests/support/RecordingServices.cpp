@@ -2,6 +2,7 @@
 
 #include "varnel/contracts/SysBase/Loadcase.h"
 #include "varnel/contracts/Tools/Error.h"
+#include "varnel/exchange/VarnelExchangeXml.h"
 #include "varnel/members/VarnelLineBoundaryData.h"
 #include "varnel/model/VarnelSubSystem.h"
 #include "varnel/results/VarnelLineResult.h"
@@ -157,6 +158,10 @@ VarnelErrorHandler *Factory::giveErrorHandler() const {
     ++made;
     handlers_.emplace_back(script);
     return &handlers_.back();
+}
+
+VarnelExchange *DocumentFactory::giveExchange() const {
+    return new VarnelExchangeXml;
 }
 
 }  // namespace recording

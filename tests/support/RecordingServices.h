@@ -153,6 +153,12 @@ class Factory : public VarnelFactory {
     mutable std::list<ErrorHandler> handlers_;  // the manager leaves them to the host
 };
 
+/// Recording services beside the exchange that reads and writes documents.
+class DocumentFactory : public Factory {
+  public:
+    VarnelExchange *giveExchange() const override;
+};
+
 }  // namespace recording
 
 #endif

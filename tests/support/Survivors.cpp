@@ -1,5 +1,6 @@
 #include "tests/support/Survivors.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -211,7 +212,15 @@ void addAreaObjects(std::string &text, const Varnel &model) {
         Facts(text, "result section").add(section->getName()).add(section->getP1()).add(section->getP2());
 }
 
-/// Springs of which none exceeds the limit go; no spacing and no frame become those of a new support.
+/// Springs of which none exceeds the limit go.
+void addActingStiffness(Facts &facts, const VarnelBoundaryData &data) {
+    const std::vector<double> springs = data.getStiffness();
+    const auto acts = [](double value) { return std::fabs(value) > 0.001; };
+    const VarnelBoundaryData none;
+    addStiffness(facts, std::any_of(springs.begin(), springs.end(), acts) ? data : none);
+}
+
+/// No spacing and no frame become those of a new support.
 void addPointBoundary(std::string &text, const VarnelPointBoundary &boundary) {
     Facts facts(text, "point boundary");
     facts.add(boundary.getNumber()).add(boundary.getName()).add(boundary.getDof()).add(boundary.getCoor());
@@ -221,10 +230,7 @@ void addPointBoundary(std::string &text, const VarnelPointBoundary &boundary) {
     if (const auto *rectangle = dynamic_cast<const VarnelPointBoundaryRectan *>(&boundary))
         facts.add(rectangle->getB()).add(rectangle->getD());
     for (const std::size_t axis : {0u, 1u, 2u}) facts.round(boundary.getBase().getVector(axis));
-    bool acts = false;
-    for (const double stiffness : boundary.getStiffness()) acts = acts || std::fabs(stiffness) > 0.001;
-    const VarnelBoundaryData none;
-    addStiffness(facts, acts ? boundary.getData() : none);
+    addActingStiffness(facts, boundary.getData());
     addWeight(facts, boundary.getData());
 }
 
@@ -360,14 +366,101 @@ void addStages(std::string &text, const VarnelSubSystem &root) {
     }
 }
 
+void addDefaultLoads(std::string &text, const VarnelDefaultProperties &defaults) {
+    const VarnelPointLoad &pointLoad = defaults.getPointLoad();
+    Facts(text, "default point load")
+        .add(pointLoad.getName())
+        .add(static_cast<int>(pointLoad.getLcType()))
+        .numberOf(pointLoad.getLoadcase())
+        .add(pointLoad.getForce())
+        .add(pointLoad.getMoment());
+    const VarnelLineLoadData &lineLoad = defaults.getLineLoad();
+    Facts(text, "default line load")
+        .add(lineLoad.getName())
+        .add(static_cast<int>(lineLoad.getType()))
+        .add(lineLoad.getP1())
+        .add(lineLoad.getP2())
+        .add(lineLoad.getM1())
+        .add(lineLoad.getM2());
+    const VarnelAreaLoad &areaLoad = defaults.getAreaLoad();
+    Facts(text, "default area load")
+        .add(areaLoad.getName())
+        .add(static_cast<int>(areaLoad.getLcType()))
+        .add(static_cast<int>(areaLoad.getType()))
+        .add(static_cast<int>(areaLoad.getData().getTransmissionType()))
+        .numberOf(areaLoad.getLoadcase())
+        .add(areaLoad.getP());
+}
+
+void addDefaultMembers(std::string &text, const VarnelDefaultProperties &defaults) {
+    const VarnelBeamProperties &beam = defaults.getBeamProp();
+    Facts(text, "default beam")
+        .add(beam.getName())
+        .add(static_cast<int>(beam.getElementType()))
+        .add(static_cast<int>(beam.getBeamType()))
+        .add(beam.getAngle())
+        .add(beam.getParts())
+        .nameOf(beam.getMaterial())
+        .nameOf(beam.getSection(0))
+        .nameOf(beam.getSection(1));
+    const VarnelPlateProperties &plate = defaults.getPlateProp();
+    Facts(text, "default plate")
+        .add(plate.getName())
+        .add(static_cast<int>(plate.getElementType()))
+        .add(static_cast<int>(plate.getMeshType()))
+        .add(plate.getAutoMeshSize())
+        .add(plate.getMeshSizeX())
+        .add(plate.getMeshSizeY())
+        .add(plate.getMeshAngle())
+        .add(plate.getThick())
+        .nameOf(plate.getMaterial());
+}
+
+void addDefaults(std::string &text) {
+    const VarnelDefaultProperties &defaults = *VarnelDefaultProperties::get();
+    addDefaultLoads(text, defaults);
+    addDefaultMembers(text, defaults);
+    const VarnelLineBoundaryData &wall = defaults.getLBData();
+    Facts(text, "default line boundary").add(wall.getName()).add(wall.getDof()).add(wall.getWidth());
+    const VarnelPointBoundaryData &column = defaults.getPBData();
+    Facts facts(text, "default point boundary");
+    facts.add(column.getName()).add(column.getDof()).round(column.getBase().getAngle(2));
+    addActingStiffness(facts, column);
+    addWeight(facts, column);
+    Facts(text, "default hole")
+        .add(defaults.getHole().getName())
+        .add(defaults.getHole().getLoadDistribution());
+    Facts(text, "default load distribution area").add(defaults.getLDA().getName());
+}
+
 }  // namespace
 
 std::string survivors(const VarnelManager &manager) {
     std::string text;
     addSettings(text, manager);
+    addDefaults(text);
     addResources(text, manager);
     addSubSystem(text, *manager.getSubSystems().front());
     addStages(text, *manager.getSubSystems().front());
+    return text;
+}
+
+std::string loadcasesOf(const VarnelManager &manager) {
+    std::string text;
+    const SysBase::Loadcase *current = manager.getCurrentLoadcase();
+    Facts(text, "current").numberOf(current);
+    std::map<int, const SysBase::Loadcase *>
+        byNumber;  // they come back in the order in which loads name them
+    for (const SysBase::Loadcase *loadcase : manager.getLoadcases())
+        byNumber[loadcase->getNumber()] = loadcase;
+    for (const auto &[number, loadcase] : byNumber)
+        Facts(text, "load case")
+            .add(number)
+            .add(loadcase->getName())
+            .add(static_cast<int>(loadcase->getType()))
+            .add(loadcase->isOwnWeight())
+            .add(loadcase->doCalculateEigen())
+            .add(loadcase->isPrimary());
     return text;
 }
 

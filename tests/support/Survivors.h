@@ -12,6 +12,9 @@ namespace varnel::test {
 /// frame rounds are given to nine decimals.
 std::string survivors(const VarnelManager &manager);
 
+/// The load cases, which only the document of an unchanged model keeps, one line each.
+std::string loadcasesOf(const VarnelManager &manager);
+
 }  // namespace varnel::test
 
 #endif
