@@ -71,10 +71,10 @@ class VARNEL_EXPORT KzVector3D {
     bool isCollinear(const KzVector3D &other) const noexcept { return isCollinear(other, 1e-4); }
 
     /// One and the same location: exact in each component. -0.0 equals 0.0, NaN equals nothing.
-    friend constexpr bool operator==(const KzVector3D &a, const KzVector3D &b) noexcept {
-        return a.x_ == b.x_ && a.y_ == b.y_ && a.z_ == b.z_;
+    constexpr bool operator==(const KzVector3D &other) const noexcept {
+        return x_ == other.x_ && y_ == other.y_ && z_ == other.z_;
     }
-    friend constexpr bool operator!=(const KzVector3D &a, const KzVector3D &b) noexcept { return !(a == b); }
+    constexpr bool operator!=(const KzVector3D &other) const noexcept { return !(*this == other); }
 
     constexpr KzVector3D &operator+=(const KzVector3D &other) noexcept {
         return setXYZ(x_ + other.x_, y_ + other.y_, z_ + other.z_);
