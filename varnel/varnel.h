@@ -206,6 +206,7 @@
 #include "varnel/process/VarnelMediator.h"
 
 #include "varnel/exchange/ElementReading.h"
+#include "varnel/exchange/ElementWriting.h"
 #include "varnel/exchange/FileSystem.h"
 #include "varnel/exchange/StateObjects.h"
 #include "varnel/exchange/StockMaterials.h"

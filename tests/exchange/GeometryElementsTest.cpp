@@ -66,10 +66,13 @@ TEST_F(GeometryElements, ArcStandsInTheElementItselfWithItsTypeAsAChild) {
                   vectorElement("END", 0, 1, 0) + "</VARNEL>");
 }
 
-TEST_F(GeometryElements, NullLineAndNullOutlineWriteNothing) {
+TEST_F(GeometryElements, NullLineNullOutlineAndTheListsOfAMissingModelWriteNothing) {
     EXPECT_EQ(written([](VarnelExchangeXml &exchange) {
                   exchange.updateOneLine(nullptr);
                   exchange.updateArea(nullptr);
+                  exchange.updatePoints(nullptr);
+                  exchange.updateLines(nullptr);
+                  exchange.updatePlates(nullptr);
               }),
               "<VARNEL></VARNEL>");
 }

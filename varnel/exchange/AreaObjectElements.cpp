@@ -4,6 +4,7 @@
 #include "varnel/contracts/KzMaterialManager.h"
 #include "varnel/contracts/KzMaterialUtil.h"
 #include "varnel/exchange/ElementReading.h"
+#include "varnel/exchange/ElementWriting.h"
 #include "varnel/exchange/VarnelExchangeXml.h"
 #include "varnel/geometry/VarnelArea.h"
 #include "varnel/geometry/VarnelAreaPolygon.h"
@@ -18,15 +19,8 @@
 
 void VarnelExchangeXml::updateHoles(Varnel *model) {
     if (!model) return;
-    open("HOLES");
-    flush();
-    for (VarnelHole *hole : model->getHoles()) {
-        if (!hole) continue;
-        openToAttribute("HOLE", "NUMBER", hole->getNumber());
-        updateOneHole(model, hole);
-        close();
-    }
-    close();
+    varnel::rebuildList(*this, "HOLES", "HOLE", model->getHoles(),
+                        [this, model](VarnelHole *hole) { updateOneHole(model, hole); });
 }
 
 void VarnelExchangeXml::updateOneHole(Varnel *, VarnelHole *hole) {
@@ -55,19 +49,14 @@ void VarnelExchangeXml::readOneHole(KzXmlData *element, VarnelHole *hole) {
 
 void VarnelExchangeXml::updateAttributeAreas(Varnel *model) {
     if (!model) return;
-    open("ATTRIBUTES");
-    flush();
-    for (VarnelAttributeArea *area : model->getAttributeAreas()) {
-        if (!area) continue;
-        openToAttribute("ATTRIBUTE", "NUMBER", area->getNumber());
-        updateArea(area->getGeo());
-        if (const KzConcrete *concrete = area->getConcrete(0))
-            updateValueToKey("CONCRETE", concrete->getName());
-        else if (const KzMaterial *material = area->getMaterial(0))
-            updateValueToKey("MATERIAL", material->getName());
-        close();
-    }
-    close();
+    varnel::rebuildList(*this, "ATTRIBUTES", "ATTRIBUTE", model->getAttributeAreas(),
+                        [this](const VarnelAttributeArea *area) {
+                            updateArea(area->getGeo());
+                            if (const KzConcrete *concrete = area->getConcrete(0))
+                                updateValueToKey("CONCRETE", concrete->getName());
+                            else if (const KzMaterial *material = area->getMaterial(0))
+                                updateValueToKey("MATERIAL", material->getName());
+                        });
 }
 
 void VarnelExchangeXml::createAttributeAreas(KzXmlData *element, Varnel *model) {
@@ -115,15 +104,8 @@ void VarnelExchangeXml::createAttributeArea(KzXmlData *element, Varnel *model) {
 
 void VarnelExchangeXml::updateLoadDistributionAreas(Varnel *model) {
     if (!model) return;
-    open("LDAREAS");
-    flush();
-    for (VarnelLoadDistributionArea *area : model->getLoadDistributionAreas()) {
-        if (!area) continue;
-        openToAttribute("LDAREA", "NUMBER", area->getNumber());
-        updateOneLoadDistributionArea(area);
-        close();
-    }
-    close();
+    varnel::rebuildList(*this, "LDAREAS", "LDAREA", model->getLoadDistributionAreas(),
+                        [this](VarnelLoadDistributionArea *area) { updateOneLoadDistributionArea(area); });
 }
 
 void VarnelExchangeXml::updateOneLoadDistributionArea(VarnelLoadDistributionArea *area) {

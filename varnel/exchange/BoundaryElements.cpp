@@ -3,6 +3,7 @@
 #include "varnel/contracts/KzMath.h"
 #include "varnel/contracts/KzMatrix44.h"
 #include "varnel/exchange/ElementReading.h"
+#include "varnel/exchange/ElementWriting.h"
 #include "varnel/exchange/VarnelExchangeXml.h"
 #include "varnel/geometry/VarnelLine.h"
 #include "varnel/geometry/VarnelPointBoundaryVisitor.h"
@@ -41,15 +42,9 @@ class OutputPointBoundary : public VarnelPointBoundaryVisitor {
 
 void VarnelExchangeXml::updatePointBoundaries(Varnel *model) {
     if (!model) return;
-    open("PBOUNDS");
-    flush();
-    for (VarnelPointBoundary *boundary : model->getPointBoundaries()) {
-        if (!boundary) continue;
-        openToAttribute("PBOUND", "NUMBER", boundary->getNumber());
-        updateOnePointBoundary(model, boundary);
-        close();
-    }
-    close();
+    varnel::rebuildList(
+        *this, "PBOUNDS", "PBOUND", model->getPointBoundaries(),
+        [this, model](VarnelPointBoundary *boundary) { updateOnePointBoundary(model, boundary); });
 }
 
 void VarnelExchangeXml::updateOnePointBoundary(Varnel *, VarnelPointBoundary *boundary) {
@@ -128,15 +123,9 @@ void VarnelExchangeXml::readPointBoundaryBase(KzXmlData *element, VarnelPointBou
 
 void VarnelExchangeXml::updateLineBoundaries(Varnel *model) {
     if (!model) return;
-    open("LBOUNDS");
-    flush();
-    for (VarnelLineBoundary *boundary : model->getLineBoundaries()) {
-        if (!boundary) continue;
-        openToAttribute("LBOUND", "NUMBER", boundary->getNumber());
-        updateOneLineBoundary(model, boundary);
-        close();
-    }
-    close();
+    varnel::rebuildList(
+        *this, "LBOUNDS", "LBOUND", model->getLineBoundaries(),
+        [this, model](VarnelLineBoundary *boundary) { updateOneLineBoundary(model, boundary); });
 }
 
 void VarnelExchangeXml::updateOneLineBoundary(Varnel *, VarnelLineBoundary *boundary) {

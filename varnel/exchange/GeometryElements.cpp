@@ -5,6 +5,7 @@
 #include "varnel/contracts/KzMath.h"
 #include "varnel/contracts/KzXmlDataUtil.h"
 #include "varnel/exchange/ElementReading.h"
+#include "varnel/exchange/ElementWriting.h"
 #include "varnel/exchange/VarnelExchangeXml.h"
 #include "varnel/geometry/VarnelAreaPolygon.h"
 #include "varnel/geometry/VarnelAreaRectangle.h"
@@ -173,17 +174,12 @@ VarnelPolyline *VarnelExchangeXml::getPolyline(KzXmlData *element) {
 }
 
 void VarnelExchangeXml::updatePoints(Varnel *model) {
-    open("POINTS");
-    flush();
-    for (const VarnelPoint *point : model->getPoints()) {
-        if (!point) continue;
-        openToAttribute("POINT", "NUMBER", point->getNumber());
-        close();
-    }
-    close();
+    if (!model) return;
+    varnel::rebuildList(*this, "POINTS", "POINT", model->getPoints(), [](const VarnelPoint *) {});
 }
 
 void VarnelExchangeXml::updateLines(Varnel *model) {
+    if (!model) return;
     open("LINES");
     flush();
     for (VarnelLine *line : model->getLines()) {

@@ -4,6 +4,7 @@
 
 #include "varnel/contracts/KzMatrix44.h"
 #include "varnel/exchange/ElementReading.h"
+#include "varnel/exchange/ElementWriting.h"
 #include "varnel/exchange/VarnelExchangeXml.h"
 #include "varnel/geometry/VarnelObjectVisitor.h"
 #include "varnel/geometry/VarnelPoint.h"
@@ -130,17 +131,12 @@ VarnelObjectGroup *VarnelExchangeXml::createOneObjectGroup(KzXmlData *element, V
 
 void VarnelExchangeXml::updateResultSections(Varnel *model) {
     if (!model) return;
-    open("RESULTSECTIONS");
-    flush();
-    for (VarnelResultSection *section : model->getResultSections()) {
-        if (!section) continue;
-        openToAttribute("RESULTSECTION", "NUMBER", section->getNumber());
-        setAttribute("NAME", section->getName());
-        updateVectorToKey("START", section->getP1());
-        updateVectorToKey("END", section->getP2());
-        close();
-    }
-    close();
+    varnel::rebuildList(*this, "RESULTSECTIONS", "RESULTSECTION", model->getResultSections(),
+                        [this](const VarnelResultSection *section) {
+                            setAttribute("NAME", section->getName());
+                            updateVectorToKey("START", section->getP1());
+                            updateVectorToKey("END", section->getP2());
+                        });
 }
 
 void VarnelExchangeXml::createResultSections(KzXmlData *element, Varnel *model) {

@@ -3,6 +3,7 @@
 #include "varnel/contracts/KzXmlDataUtil.h"
 #include "varnel/contracts/SysBase/Loadcase.h"
 #include "varnel/exchange/ElementReading.h"
+#include "varnel/exchange/ElementWriting.h"
 #include "varnel/exchange/VarnelExchangeXml.h"
 #include "varnel/geometry/VarnelArea.h"
 #include "varnel/geometry/VarnelLine.h"
@@ -35,15 +36,8 @@ void VarnelExchangeXml::readLoadcase(KzXmlData *element, VarnelLoad *load) {
 
 void VarnelExchangeXml::updatePointLoads(Varnel *model) {
     if (!model) return;
-    open("POINTLOADS");
-    flush();
-    for (VarnelPointLoad *load : model->getPointLoads()) {
-        if (!load) continue;
-        openToAttribute("POINTLOAD", "NUMBER", load->getNumber());
-        updateOnePointLoad(model, load);
-        close();
-    }
-    close();
+    varnel::rebuildList(*this, "POINTLOADS", "POINTLOAD", model->getPointLoads(),
+                        [this, model](VarnelPointLoad *load) { updateOnePointLoad(model, load); });
 }
 
 void VarnelExchangeXml::updateOnePointLoad(Varnel *, VarnelPointLoad *load) {
@@ -79,15 +73,8 @@ void VarnelExchangeXml::readOnePointLoad(KzXmlData *element, VarnelPointLoad *lo
 
 void VarnelExchangeXml::updateLineLoads(Varnel *model) {
     if (!model) return;
-    open("LINELOADS");
-    flush();
-    for (VarnelLineLoad *load : model->getLineLoads()) {
-        if (!load) continue;
-        openToAttribute("LINELOAD", "NUMBER", load->getNumber());
-        updateOneLineLoad(model, load);
-        close();
-    }
-    close();
+    varnel::rebuildList(*this, "LINELOADS", "LINELOAD", model->getLineLoads(),
+                        [this, model](VarnelLineLoad *load) { updateOneLineLoad(model, load); });
 }
 
 void VarnelExchangeXml::updateOneLineLoad(Varnel *, VarnelLineLoad *load) {
@@ -148,15 +135,8 @@ void VarnelExchangeXml::readOneLineLoadData(KzXmlData *element, VarnelLineLoadDa
 
 void VarnelExchangeXml::updateAreaLoads(Varnel *model) {
     if (!model) return;
-    open("AREALOADS");
-    flush();
-    for (VarnelAreaLoad *load : model->getAreaLoads()) {
-        if (!load) continue;
-        openToAttribute("AREALOAD", "NUMBER", load->getNumber());
-        updateOneAreaLoad(model, load);
-        close();
-    }
-    close();
+    varnel::rebuildList(*this, "AREALOADS", "AREALOAD", model->getAreaLoads(),
+                        [this, model](VarnelAreaLoad *load) { updateOneAreaLoad(model, load); });
 }
 
 void VarnelExchangeXml::updateOneAreaLoad(Varnel *, VarnelAreaLoad *load) {

@@ -5,6 +5,7 @@
 #include "varnel/contracts/KzConcrete.h"
 #include "varnel/contracts/KzMaterialUtil.h"
 #include "varnel/exchange/ElementReading.h"
+#include "varnel/exchange/ElementWriting.h"
 #include "varnel/exchange/VarnelExchangeXml.h"
 #include "varnel/geometry/VarnelArea.h"
 #include "varnel/geometry/VarnelLine.h"
@@ -18,15 +19,9 @@
 #include "varnel/process/VarnelManager.h"
 
 void VarnelExchangeXml::updatePlates(Varnel *model) {
-    open("PLATES");
-    flush();
-    for (VarnelPlate *plate : model->getPlates()) {
-        if (!plate) continue;
-        openToAttribute("PLATE", "NUMBER", plate->getNumber());
-        updateOnePlate(model, plate);
-        close();
-    }
-    close();
+    if (!model) return;
+    varnel::rebuildList(*this, "PLATES", "PLATE", model->getPlates(),
+                        [this, model](VarnelPlate *plate) { updateOnePlate(model, plate); });
 }
 
 void VarnelExchangeXml::createPlates(KzXmlData *element, Varnel *model) {
