@@ -8,6 +8,8 @@
 
 #include <csignal>
 #include <filesystem>
+#include <thread>
+#include <vector>
 
 #include "tests/support/TemporaryFolder.h"
 #include "varnel/exchange/FileSystem.h"
@@ -53,6 +55,22 @@ TEST(KzofstreamPosix, GivesANewFileTheModeOfAnyNewFile) {
         EXPECT_EQ(::umask(before), mask) << "the mask itself stays";
         EXPECT_EQ(modeOf(path), 0666u & ~mask);
     }
+}
+
+// The mask belongs to the whole process: to set it, were it for a moment only, is to lose it to another
+// thread.
+TEST(KzofstreamPosix, SeveralThreadsLeaveTheMaskOfNewFiles) {
+    const TemporaryFolder folder;
+    const mode_t before = ::umask(022);
+    std::vector<std::thread> threads;
+    for (const char *name : {"a.xml", "b.xml", "c.xml"})
+        threads.emplace_back([file = folder.write(name, ""), missing = folder.file("missing")] {
+            for (int i = 0; i < 3000; ++i) FileSystem::get().adoptMode(file, missing);
+        });
+    for (std::thread &thread : threads) thread.join();
+    EXPECT_EQ(::umask(before), 022u);
+    EXPECT_EQ(modeOf(folder.file("a.xml")), 0644u);
+    EXPECT_THAT(folder.names(), ElementsAre("a.xml", "b.xml", "c.xml"));
 }
 
 TEST(KzofstreamPosix, ASymbolicLinkStaysOneAndItsFileIsReplaced) {

@@ -245,6 +245,29 @@ TEST_F(Kzofstream, AcrossFileSystemsTheTargetIsReplacedToo) {
     EXPECT_THAT(temporary_.names(), IsEmpty());
 }
 
+// Root may write into any file; for everybody else the copy must not bear the target's rights too early.
+TEST_F(Kzofstream, AcrossFileSystemsAReadOnlyTargetIsReplacedWithItsRights) {
+    using Rights = std::filesystem::perms;
+    struct ForbidsWriting : FailingFileSystem {
+        using FailingFileSystem::FailingFileSystem;
+        bool copy(const std::string &from, const std::string &to) override {
+            const bool writable =
+                (std::filesystem::status(to).permissions() & Rights::owner_write) != Rights::none;
+            return writable && FailingFileSystem::copy(from, to);
+        }
+    };
+    folder_.write("house.xml", "old");
+    std::filesystem::permissions(target_, Rights::owner_read);
+    ForbidsWriting files(temporary_.path());
+    files.separateTemporaryFolder();
+    kzofstream out(target_);
+    out.stream() << "new";
+    EXPECT_TRUE(out.commit());
+    EXPECT_EQ(folder_.read("house.xml"), "new");
+    EXPECT_EQ(std::filesystem::status(target_).permissions(), Rights::owner_read);
+    EXPECT_THAT(folder_.names(), ElementsAre("house.xml"));
+}
+
 TEST_F(Kzofstream, ATargetInAMissingFolderLeavesTheContentUnderTheTemporaryName) {
     kzofstream out(folder_.file("missing/house.xml"));
     out.stream() << "new";

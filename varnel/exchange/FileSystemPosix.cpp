@@ -63,12 +63,16 @@ bool copyContent(int from, int to) {
     }
 }
 
-/// The access rights of a new file. The mask can only be read by setting it; the strict one in between makes
-/// nothing readable that another thread creates at this moment.
-mode_t modeOfNewFiles() {
-    const mode_t mask = ::umask(077);
-    ::umask(mask);
-    return 0666 & ~mask;
+/// The access rights of a new file, seen on one that is made beside the given file and goes again: to ask for
+/// the mask itself is to set it, for all threads of the process. Private ones if none can be made.
+mode_t modeOfNewFiles(const std::string &file) {
+    const std::string probe = file + "~";
+    const Descriptor made(::open(probe.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+    if (!made.isOpen()) return 0600;
+    struct stat status {};
+    const bool known = ::fstat(made.number(), &status) == 0;
+    ::unlink(probe.c_str());
+    return known ? status.st_mode & 0777 : 0600;
 }
 
 std::string makeUnique(std::string pattern) {
@@ -115,7 +119,7 @@ class FileSystemPosix final : public FileSystem {
     bool adoptMode(const std::string &file, const std::string &target) override {
         struct stat old {};
         const bool present = ::stat(target.c_str(), &old) == 0;
-        return ::chmod(file.c_str(), present ? old.st_mode & 07777 : modeOfNewFiles()) == 0;
+        return ::chmod(file.c_str(), present ? old.st_mode & 07777 : modeOfNewFiles(file)) == 0;
     }
 
     bool sync(const std::string &file) override {

@@ -72,25 +72,27 @@ bool kzofstream::finishWriting() {
     return written && !stream_->fail();
 }
 
-/// If the target cannot be replaced, the whole new content stays under the temporary name. Access rights that
-/// a file system does not know are no reason to lose the document.
+/// If the target cannot be replaced, the whole new content stays under the temporary name.
 bool kzofstream::putInPlace() {
     const std::string place = files_.resolve(target_);
-    if (place.empty()) return false;
-    files_.adoptMode(temporary_, place);
-    if (!files_.sync(temporary_)) return false;
-    return files_.replace(temporary_, place) || putInPlaceByCopy(place);
+    if (place.empty() || !files_.sync(temporary_)) return false;
+    return moveTo(place, temporary_) || putInPlaceByCopy(place);
 }
 
 /// The way across a border between file systems: a copy beside the target, and from there in one step.
 bool kzofstream::putInPlaceByCopy(const std::string &place) {
     const std::string beside = files_.makeBeside(place);
     if (beside.empty()) return false;
-    files_.adoptMode(beside, place);
-    const bool placed =
-        files_.copy(temporary_, beside) && files_.sync(beside) && files_.replace(beside, place);
+    const bool placed = files_.copy(temporary_, beside) && files_.sync(beside) && moveTo(place, beside);
     files_.remove(placed ? temporary_ : beside);
     return placed;
+}
+
+/// The access rights come last: under those of a read-only target nothing could be written any more. Rights
+/// that a file system does not know are no reason to lose the document.
+bool kzofstream::moveTo(const std::string &place, const std::string &file) {
+    files_.adoptMode(file, place);
+    return files_.replace(file, place);
 }
 
 void kzofstream::end() noexcept {

@@ -40,6 +40,7 @@ class VARNEL_EXPORT kzofstream {
     bool finishWriting();
     bool putInPlace();
     bool putInPlaceByCopy(const std::string &place);
+    bool moveTo(const std::string &place, const std::string &file);
     void end() noexcept;
 
     std::string target_;
