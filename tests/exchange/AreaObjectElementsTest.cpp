@@ -144,6 +144,14 @@ TEST_F(AreaObjectElements, OddOutlinesAreHarmless) {
     other.write();
 }
 
+TEST_F(AreaObjectElements, MissingObjectsInTheListsAreSkipped) {
+    model().add(static_cast<VarnelHole *>(nullptr));
+    model().add(static_cast<VarnelAttributeArea *>(nullptr));
+    model().add(static_cast<VarnelLoadDistributionArea *>(nullptr));
+    for (const char *list : {"HOLES", "ATTRIBUTES", "LDAREAS"})
+        EXPECT_EQ(writtenList(list), std::string("<") + list + "></" + list + ">");
+}
+
 TEST_F(AreaObjectElements, ListsOfAreasAreRebuilt) {
     readHoles("<HOLE/><HOLE/>");
     for (const char *list : {"HOLES", "ATTRIBUTES", "LDAREAS"}) {

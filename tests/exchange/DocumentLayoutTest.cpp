@@ -342,6 +342,25 @@ TEST_F(DocumentLayout, DocumentIsReadIntoTheCurrentSubSystem) {
     EXPECT_EQ(root()->getDatabase()->getNumberOfHoles(), 0);
 }
 
+TEST_F(DocumentLayout, StagesGoToTheSubSystemThatTheDocumentWasReadInto) {
+    class Moving : public VarnelExchangeXml {
+      public:
+        VarnelSubSystem *next = nullptr;
+        void createOneSubSystem(KzXmlData *element, VarnelSubSystem *subSystem) override {
+            VarnelExchangeXml::createOneSubSystem(element, subSystem);
+            getManager()->setCurrentSubSystem(next);
+        }
+    } exchange;
+    exchange.next = document.manager.giveSubSystem("Tower", root());
+    std::istringstream stream(
+        "<VARNEL><SUBSYSTEM><CONSTRUCTIONSTATES><CONSTRUCTIONSTATE/></CONSTRUCTIONSTATES></SUBSYSTEM>"
+        "</VARNEL>");
+    exchange.getTree()->buildOfStream(stream);
+    exchange.get(&document.manager);
+    EXPECT_EQ(root()->getConstructionStages().size(), 1u);
+    EXPECT_TRUE(exchange.next->getConstructionStages().empty());
+}
+
 TEST_F(DocumentLayout, SubSystemIsFoundAlsoDeepInTheDocument) {
     document.read("<VARNEL><A><SUBSYSTEM STANDARD=\"4\"><HOLES><HOLE/></HOLES></SUBSYSTEM></A></VARNEL>");
     EXPECT_EQ(document.model().getNumberOfHoles(), 1);

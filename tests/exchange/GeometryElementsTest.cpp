@@ -114,6 +114,46 @@ TEST_F(GeometryElements, RectangleAtNinetyDegreesTurnsByAQuarter) {
               "<VARNEL>" + element + "</VARNEL>");
 }
 
+// Only "AREA" is emptied; the lists around outlines are rebuilt anyway.
+TEST_F(GeometryElements, OutlineIsWrittenAnewAndARectangleBesideTheOldOne) {
+    const auto names = [](const KzXmlData *element) {
+        std::string text;
+        for (const KzXmlData *child : element->getChildren()) text += child->getName() + " ";
+        return text;
+    };
+    document.exchange().getTree()->flushRoot();
+    KzXmlData *root = document.exchange().getTree()->getRoot();
+    VarnelAreaRectangle rectangle(KzVector3D(0, 0, 0), 4, 3, 0);
+    VarnelAreaPolygon polygon({KzVector3D(0, 0, 0), KzVector3D(4, 0, 0), KzVector3D(0, 3, 0)});
+    for (const char *outline : {"AREA", "RECTAN"}) {
+        root->makeChild(outline)->makeChild("OLD");
+        root->findChild(outline)->setAttribute("OLD", 1);
+    }
+    document.exchange().updateArea(&polygon);
+    document.exchange().updateArea(&rectangle);
+    EXPECT_EQ(names(root), "AREA RECTAN ");
+    EXPECT_EQ(textOf(root->findChild("AREA")), triangle);
+    EXPECT_EQ(names(root->findChild("RECTAN")), "OLD POS ");
+    EXPECT_NE(root->findChild("RECTAN")->findAttribute("OLD"), nullptr);
+}
+
+TEST_F(GeometryElements, ArcsOfAnOutlineComeBackAsTheirChords) {
+    VarnelArea outline;
+    outline.addLine(new VarnelCircle(KzVector3D(0, 0, 0), KzVector3D(1, 0, 0), KzVector3D(0, 1, 0)));
+    outline.addLine(new VarnelStraight(KzVector3D(0, 1, 0), KzVector3D(0, 0, 0)));
+    outline.addLine(new VarnelStraight(KzVector3D(0, 0, 0), KzVector3D(1, 0, 0)));
+    outline.meltFirstAndLast();
+    const std::string text = written([&](VarnelExchangeXml &exchange) { exchange.updateArea(&outline); });
+    EXPECT_NE(text.find(edge(1, "<TYPE>CIRCLE</TYPE>" + quarter + vectorElement("START", 1, 0, 0) +
+                                    vectorElement("END", 0, 1, 0))),
+              std::string::npos);
+    const auto read = readArea(text.substr(8, text.size() - 17));
+    ASSERT_EQ(read->getNumLines(), 3u);
+    EXPECT_NE(dynamic_cast<VarnelStraight *>(read->getLine(0)), nullptr);
+    EXPECT_TRUE(read->getLine(0)->getStartVec() == KzVector3D(1, 0, 0));
+    EXPECT_TRUE(read->getLine(0)->getEndVec() == KzVector3D(0, 1, 0));
+}
+
 TEST_F(GeometryElements, RectangleWithoutAPositionIsNone) {
     EXPECT_EQ(readArea("<RECTAN WIDTH=\"2\" HEIGHT=\"1\"/>"), nullptr);
     const auto flat = readArea("<RECTAN>" + vectorElement("POS", 1, 2, 3) + "</RECTAN>");
@@ -234,6 +274,7 @@ TEST(PointAndLineLists, AreWrittenOnRequestAndAllLinesMeetInOneElement) {
     model.add(new VarnelStraight(KzVector3D(5, 0, 0), KzVector3D(6, 0, 0)));
     model.givePoint(KzVector3D(1, 2, 3));
     model.givePoint(KzVector3D(4, 5, 6));
+    model.add(static_cast<VarnelLine *>(nullptr));
     auto &exchange = static_cast<VarnelExchangeXml &>(*manager.getExchange());
     for (int i = 0; i < 2; ++i) {
         exchange.updateSystem(&manager);
@@ -243,6 +284,10 @@ TEST(PointAndLineLists, AreWrittenOnRequestAndAllLinesMeetInOneElement) {
         EXPECT_EQ(textOf(top->findChild("LINES")),
                   "<LINES><LINE NUMBER=\"0\"><LINE TYPE=\"STRAIGHT\">" + vectorElement("START", 5, 0, 0) +
                       vectorElement("END", 6, 0, 0) + "</LINE></LINE></LINES>");
+        for (const char *list : {"POINTS", "LINES"}) {  // gone in the second round
+            top->findChild(list)->makeChild("OLD");
+            top->findChild(list)->setAttribute("OLD", 1);
+        }
     }
 }
 

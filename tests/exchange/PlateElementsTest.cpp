@@ -114,6 +114,16 @@ TEST_F(PlateElements, ConcreteIsFoundInTheProjectBeforeTheStock) {
               KzMaterialHandler::get()->findMaterialToName("S235", 0));
 }
 
+TEST_F(PlateElements, ChildForTheConcreteIsReadBeforeThatForTheMaterial) {
+    auto *own = new KzMaterial("S235", 1.0, 2.0);
+    document.manager.getMaterialManager()->add(own);
+    EXPECT_EQ(readPlate("", "<MATERIAL>S235</MATERIAL>")->getMaterial(0), own);
+    EXPECT_EQ(readPlate("", "<MATERIAL>S235</MATERIAL><CONCRETE>C25/30</CONCRETE>")->getMaterial(0),
+              KzMaterialHandler::get()->findConcreteToName("C25/30", 0));
+    // A material that is no concrete is none, and the other child does not stand in for it.
+    EXPECT_THROW(readPlate("", "<CONCRETE>S235</CONCRETE><MATERIAL>S235</MATERIAL>"), Tools::Error);
+}
+
 TEST_F(PlateElements, UnknownMaterialEndsTheReadingWithAnError) {
     for (const char *content : {"<CONCRETE>C1/1</CONCRETE>", "<MATERIAL>mud</MATERIAL>", "<CONCRETE/>"}) {
         SCOPED_TRACE(content);
@@ -222,6 +232,29 @@ TEST_F(PlateElements, MissingItemsOfAnEdgeLeaveTheirDefaults) {
     EXPECT_EQ(plate->getGeo()->getLine(0)->getNumberOfParts(), 0);
 }
 
+TEST_F(PlateElements, SpringsOfZeroAreNoneAndADirectionOfZerosStaysZero) {
+    const VarnelPlate *plate = readPlate(
+        "", square + "<BOUNDS><EDGE POS=\"0\">" + vectorElement("STIFFD", 0, 0, 0) +
+                vectorElement("STIFFR", 0, 0, 0) + vectorElement("LOCSYS", 0, 0, 0) + "</EDGE></BOUNDS>");
+    EXPECT_EQ(plate->getBoundary(0)->getStiffnessData(), nullptr);
+    EXPECT_TRUE(plate->getBoundary(0)->getLocsys() == KzVector3D(0, 0, 0));
+}
+
+// Supports are looked for by their names there, also those of the plates of other subsystems.
+TEST_F(PlateElements, SupportsOfNestedPlatesAreListedInTheCurrentModel) {
+    document.readSubSystem("<SUBSYSTEMS><SUBSYSTEM NAME=\"Tower\"><PLATES><PLATE>" + square +
+                           "<BOUNDS><EDGE POS=\"0\" NAME=\"north\"/></BOUNDS></PLATE></PLATES></SUBSYSTEM>"
+                           "</SUBSYSTEMS>");
+    VarnelSubSystem *tower = document.manager.getSubSystems().front()->findChild("Tower", false);
+    ASSERT_NE(tower, nullptr);
+    Varnel &nested = *tower->getDatabase();
+    VarnelPlate *plate = nested.getPlates().front();
+    EXPECT_EQ(document.model().findLineBoundaryToName("north"), plate->getBoundary(0));
+    EXPECT_EQ(nested.findLineBoundaryToName("north"), nullptr);
+    nested.remove(plate, true);
+    EXPECT_EQ(document.model().findLineBoundaryToName("north"), nullptr);
+}
+
 TEST_F(PlateElements, EdgesThatTheOutlineLacksArePassedOver) {
     for (const char *position :
          {"", "POS=\"-1\"", "POS=\"4\"", "POS=\"1000000000\"", "POS=\"-2147483648\""}) {
@@ -283,6 +316,54 @@ TEST_F(PlateElements, AreaLoadsAreOneForEachType) {
     EXPECT_EQ(textOf(loads),
               "<AREALOADS><AREALOAD LCTYPE=\"1\" NAME=\"dead\" LC=\"4\"><X>1</X><Y>2</Y><Z>3</Z></AREALOAD>"
               "<AREALOAD LCTYPE=\"2\" NAME=\"more\"><X>0</X><Y>0</Y><Z>7</Z></AREALOAD></AREALOADS>");
+}
+
+TEST_F(PlateElements, AreaLoadsOfOneTypeMeetInOneElement) {
+    VarnelPlate *plate = addSquare();
+    for (const char *name : {"first", "second"}) {
+        auto *load = new VarnelAreaLoad;
+        load->setLcType(2);
+        load->setName(name);
+        plate->add(load);
+    }
+    plate->getAreaLoads().front()->setLoadcase(document.manager.giveLoadcaseToNumber(4, true));
+    document.exchange().updateSystem(&document.manager);
+    const KzXmlData *list = document.find({"SUBSYSTEM", "PLATES", "PLATE", "AREALOADS"});
+    ASSERT_EQ(list->getChildren().size(), 1u);
+    EXPECT_EQ(list->getChildren().front()->findAttribute("NAME")->getData(), "second");
+    EXPECT_EQ(list->getChildren().front()->findAttribute("LC")->getInteger(), 4);  // of the first
+}
+
+TEST_F(PlateElements, MissingPlatesAndLoadsAreSkipped) {
+    document.model().add(static_cast<VarnelPlate *>(nullptr));
+    addSquare()->add(static_cast<VarnelAreaLoad *>(nullptr));
+    document.exchange().updateSystem(&document.manager);
+    const KzXmlData *list = document.find({"SUBSYSTEM", "PLATES"});
+    ASSERT_EQ(list->getChildren().size(), 1u);
+    EXPECT_TRUE(list->getChildren().front()->findChild("AREALOADS")->getChildren().empty());
+}
+
+TEST_F(PlateElements, NothingToReadOrWriteIsHarmless) {
+    VarnelExchangeXml &exchange = document.exchange();
+    std::istringstream stream("<PLATE FOUND=\"1\"><A POS=\"0\"/></PLATE>");
+    KzXmlTree tree("E");
+    tree.buildOfStream(stream);
+    VarnelPlate plate(nullptr);
+    exchange.updatePlates(nullptr);
+    exchange.updateOnePlate(nullptr, nullptr);
+    exchange.createPlates(nullptr, nullptr);
+    exchange.readOnePlate(nullptr, &plate);
+    exchange.readOnePlate(tree.getRoot(), nullptr);
+    exchange.readPlateFound(nullptr, &plate);
+    exchange.readPlateFound(tree.getRoot(), nullptr);
+    exchange.createBoundariesToPlate(nullptr, tree.getRoot());
+    exchange.createBoundariesToPlate(&plate, nullptr);
+    exchange.createAreaLoadsToPlate(nullptr, tree.getRoot());
+    exchange.createAreaLoadsToPlate(&plate, nullptr);
+    EXPECT_EQ(exchange.createOnePlate(nullptr, &document.model()), nullptr);
+    EXPECT_EQ(exchange.createOnePlate(tree.getRoot(), nullptr), nullptr);
+    EXPECT_TRUE(document.model().getPlates().empty());
+    EXPECT_EQ(textOf(document.find({})), "<VARNEL></VARNEL>");
 }
 
 TEST_F(PlateElements, OtherChildrenOfTheListAreIgnored) {
@@ -360,6 +441,11 @@ TEST_F(ResultsOfEdges, AreWrittenForReferencesOfAnUnchangedModelOnly) {
     EXPECT_EQ(writtenEdge()->findChild("LOADCASES"), nullptr);
     plate->getBoundary(0)->setReference(plate->getBoundary(0));
     manager.getDatabase()->setLoadChanged(true);
+    EXPECT_EQ(writtenEdge()->findChild("LOADCASES"), nullptr);
+    setUnchanged();
+    EXPECT_NE(writtenEdge()->findChild("LOADCASES"), nullptr);
+    plate->setThick(0.3);
+    ASSERT_FALSE(manager.loadChanged());
     EXPECT_EQ(writtenEdge()->findChild("LOADCASES"), nullptr);
 }
 

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <type_traits>
+
 #include "tests/support/VirtualSlot.h"
 #include "varnel/contracts/KzVector3D.h"
 #include "varnel/contracts/Tools/Path.h"
@@ -62,6 +64,7 @@ TEST(VarnelExchange, TreeOfXmlAddsOneVirtualOperation) {
     EXPECT_EQ(virtualSlot(&VarnelExchangeXmlBase::getVector), -1);
     EXPECT_EQ(virtualSlot(&VarnelExchangeXmlBase::getVectorToKey), -1);
     EXPECT_EQ(virtualSlot(&VarnelExchangeXmlBase::remove), -1);
+    EXPECT_TRUE(std::is_abstract<VarnelExchangeXmlBase>::value);
 }
 
 TEST(VarnelExchange, StartsWithoutAManagerAndCopiesShareIt) {

@@ -140,6 +140,11 @@ TEST_F(Frame, DoubleKeysMatchBelowAThousandthOnly) {
     exchange.openToAttribute("A", "K", 2.0 + 0.0009765625);
     exchange.close();
     EXPECT_EQ(root()->getChildren().size(), 3u);
+    exchange.openToAttribute("B", "K", 0.0);
+    exchange.close();
+    exchange.openToAttribute("B", "K", 0.001);
+    exchange.close();
+    EXPECT_EQ(root()->getChildren().size(), 5u);
 }
 
 TEST_F(Frame, NullCursorTurnsEverythingIntoNothing) {
@@ -219,6 +224,8 @@ TEST_F(Frame, FileOutputTellsWhetherTheFileIsThere) {
     EXPECT_TRUE(exchange.lastOutputOk());
     exchange.fileOutput(Tools::Path("/no/such/folder/out.xml"));
     EXPECT_FALSE(exchange.lastOutputOk());
+    exchange.fileOutput(Tools::Path(folder.file("out.xml")));
+    EXPECT_TRUE(exchange.lastOutputOk());
     VarnelExchangeXml other;
     EXPECT_TRUE(other.fileInput(Tools::Path(folder.file("out.xml"))));
     EXPECT_EQ(textOf(other.getTree()->getRoot()), text());

@@ -30,6 +30,7 @@ void VarnelExchangeXml::createPlates(KzXmlData *element, Varnel *model) {
 }
 
 void VarnelExchangeXml::updateOnePlate(Varnel *model, VarnelPlate *plate) {
+    if (!plate) return;
     const VarnelPlateProperties &data = plate->getData();
     setAttribute("NAME", plate->getName());
     setAttribute("TYPE", data.getElementType());
@@ -83,7 +84,7 @@ void VarnelExchangeXml::updateEdge(Varnel *model, VarnelPlate *plate, std::size_
 }
 
 VarnelPlate *VarnelExchangeXml::createOnePlate(KzXmlData *element, Varnel *model) {
-    VarnelPlate *plate = model ? model->givePlate(true) : nullptr;
+    VarnelPlate *plate = element && model ? model->givePlate(true) : nullptr;
     if (!plate) return nullptr;
     plate->setArea(readOutline(element, model));
     readOnePlate(element, plate);
@@ -94,6 +95,7 @@ VarnelPlate *VarnelExchangeXml::createOnePlate(KzXmlData *element, Varnel *model
 }
 
 void VarnelExchangeXml::readOnePlate(KzXmlData *element, VarnelPlate *plate) {
+    if (!element || !plate) return;
     varnel::ifInt(element, "NUMBER", [plate](int value) { plate->setNumber(value); });
     varnel::ifText(element, "NAME", [plate](const std::string &value) { plate->setName(value); });
     varnel::ifDouble(element, "THICK", [plate](double value) { plate->setThick(value); });
@@ -127,7 +129,7 @@ void VarnelExchangeXml::readPlateMaterial(KzXmlData *element, VarnelPlate *plate
 }
 
 void VarnelExchangeXml::readPlateFound(KzXmlData *element, VarnelPlate *plate) {
-    if (!getManager()) return;
+    if (!plate || !getManager()) return;
     Found::FoundationManager *foundations = getManager()->getFoundationManager();
     const bool byNumber = varnel::ifInt(element, "FOUND", [plate, foundations](int number) {
         plate->setFoundation(foundations->findFoundation(number));
@@ -138,6 +140,7 @@ void VarnelExchangeXml::readPlateFound(KzXmlData *element, VarnelPlate *plate) {
 }
 
 void VarnelExchangeXml::createBoundariesToPlate(VarnelPlate *plate, KzXmlData *boundsElement) {
+    if (!plate) return;
     varnel::eachChild(boundsElement, [this, plate](KzXmlData *child) {
         // A position that is absent or negative is past every outline, so the edge is passed over.
         const auto edge = static_cast<std::size_t>(varnel::readInt(child, "POS", -1));
@@ -171,6 +174,7 @@ void VarnelExchangeXml::readEdgeBoundary(KzXmlData *element, VarnelLineBoundaryD
 }
 
 void VarnelExchangeXml::createAreaLoadsToPlate(VarnelPlate *plate, KzXmlData *element) {
+    if (!plate) return;
     varnel::eachChild(element, [this, plate](KzXmlData *child) {
         const auto type = static_cast<SysBase::LoadcaseData::Type>(varnel::readInt(child, "LCTYPE", 2));
         VarnelAreaLoad *load = plate->giveAreaLoad(type, nullptr);

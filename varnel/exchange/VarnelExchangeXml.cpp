@@ -110,8 +110,9 @@ void VarnelExchangeXml::treeToDatabase() {
     createFoundations(root);
     createSettings(root);
     if (KzXmlData *subSystem = root->findTree("SUBSYSTEM", true)) {
-        createOneSubSystem(subSystem, manager->getCurrentSubSystem());
-        createConstructionStages(subSystem, manager->getCurrentSubSystem());
+        VarnelSubSystem *target = manager->getCurrentSubSystem();
+        createOneSubSystem(subSystem, target);
+        createConstructionStages(subSystem, target);
     }
     if (KzXmlData *loadcases = root->findTree("LOADCASES", false)) createLoadcases(loadcases, manager);
 }
