@@ -24,7 +24,7 @@ kzofstream::~kzofstream() {
 }
 
 void kzofstream::open(const std::string &path, std::ios_base::openmode mode) {
-    mode |= std::ios_base::out;
+    mode |= std::ios_base::out | std::ios_base::binary;  // line ends are the writer's, on every platform
     if (path.empty()) return;
     const std::string directory = files_.temporaryDirectory();
     if (directory.empty() || directory.size() >= longestDirectory) return;
