@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <type_traits>
+
 #include "tests/support/VirtualSlot.h"
 #include "varnel/process/VarnelCalculator.h"
 #include "varnel/process/VarnelConverter.h"
@@ -17,6 +19,14 @@
 namespace {
 
 using varnel::virtualSlot;
+
+// A virtual destructor would take the first slots of these three.
+static_assert(!std::has_virtual_destructor<VarnelDatabaseFactory>::value, "first slot: givePlate");
+static_assert(!std::has_virtual_destructor<VarnelErrorHandler>::value, "first slot: display of a list");
+static_assert(!std::has_virtual_destructor<VarnelMediator>::value, "first slot: updateSubSystem");
+static_assert(std::is_abstract<VarnelConverter>::value, "a host converts");
+static_assert(std::is_abstract<VarnelDesigner>::value, "a host hands results back");
+static_assert(!std::is_abstract<VarnelCalculator>::value, "a base calculator fails");
 
 TEST(ServiceSlots, FactoryMakesItsServicesInOrder) {
     EXPECT_EQ(virtualSlot(&VarnelFactory::giveCalculator), 2);
@@ -79,6 +89,7 @@ TEST(ServiceSlots, ConverterHasItsOperationsInOrder) {
     EXPECT_EQ(virtualSlot(&OpenConverter::setProjectPath), 7);
     EXPECT_EQ(virtualSlot(&VarnelConverter::getTolerance), 8);
     EXPECT_EQ(virtualSlot(&VarnelConverter::setTolerance), 9);
+    EXPECT_EQ(virtualSlot(&VarnelConverter::refineMesh), 12);
     EXPECT_EQ(virtualSlot(&VarnelConverter::convert), 14);
 }
 
@@ -87,14 +98,12 @@ class PrivateConverter : public VarnelConverter {
   public:
     void removeAll() override {}
     void modifyModel() override {}
-    void refineMesh() override {}
     void setupConstructionStage(VarnelConstructionStage *) override {}
 };
 
 TEST(ServiceSlots, PrivateOperationsOfTheConverterLieInBetween) {
     EXPECT_EQ(virtualSlot(&PrivateConverter::removeAll), 10);
     EXPECT_EQ(virtualSlot(&PrivateConverter::modifyModel), 11);
-    EXPECT_EQ(virtualSlot(&PrivateConverter::refineMesh), 12);
     EXPECT_EQ(virtualSlot(&PrivateConverter::setupConstructionStage), 13);
 }
 

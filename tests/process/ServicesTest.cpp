@@ -47,6 +47,19 @@ TEST(VarnelFactory, CopiesCarryTheManager) {
     EXPECT_EQ(copy.getManager(), &manager);
 }
 
+TEST(VarnelFactory, IsNeverAskedForADatabaseFactory) {
+    class Asked : public VarnelFactory {
+        VarnelDatabaseFactory *giveDatabaseFactory() const override {
+            ADD_FAILURE() << "a VarnelDB makes its own";
+            return nullptr;
+        }
+    } factory;
+    VarnelManager manager(&factory);
+    manager.giveSubSystem("child", manager.getCurrentSubSystem());
+    EXPECT_NE(manager.getDatabase()->givePlate(true), nullptr);
+    EXPECT_NE(manager.getDatabase()->giveBeam(true), nullptr);
+}
+
 TEST(VarnelDatabaseFactory, MakesPlainObjectsAndCopies) {
     VarnelDatabaseFactory factory;
     const std::unique_ptr<VarnelPlate> plate(factory.givePlate());
@@ -129,9 +142,17 @@ TEST(VarnelErrorHandler, StopsWaitingAtTheEndOfTheInput) {
 }
 
 TEST(VarnelMediator, DoesNothing) {
+    recording::Factory factory;
+    VarnelManager manager(&factory);
+    VarnelPlate *plate = manager.getDatabase()->givePlate(true);
+    plate->setNumber(9);
+    manager.setSystemChanged(false);
     VarnelMediator mediator;
+    mediator.updateSubSystem(manager.getCurrentSubSystem());
     mediator.updateSubSystem(nullptr);
-    SUCCEED();
+    EXPECT_EQ(plate->getNumber(), 9);
+    EXPECT_FALSE(manager.systemChanged());
+    EXPECT_EQ(factory.made, 0);
 }
 
 /// A calculator whose settings can be looked at.
@@ -244,6 +265,25 @@ TEST(VarnelCalculator, BaseFailsAndAnswersNothing) {
     calculator.setUpInitialReinforcement({});
 }
 
+TEST(VarnelCalculator, CopiesHaveThePathTheStepTheManagerAndTheModel) {
+    VarnelFactory factory;
+    VarnelManager manager(&factory);
+    OpenCalculator calculator;
+    calculator.initInstance(&manager);
+    calculator.setProjectPath(Tools::Path("/a/b.xml"));
+    calculator.setCurrentStep(4);
+    const OpenCalculator copy(calculator);
+    OpenCalculator assigned;
+    assigned = calculator;
+    calculator.setProjectPath(Tools::Path("/c/d.xml"));
+    for (const OpenCalculator *one : {&copy, static_cast<const OpenCalculator *>(&assigned)}) {
+        EXPECT_EQ(one->getManager(), &manager);
+        EXPECT_EQ(one->getDatabase(), manager.getDatabase());
+        EXPECT_EQ(one->getProjectPath().path(), "/a/b.xml");
+        EXPECT_EQ(one->getCurrentStep(), 4);
+    }
+}
+
 TEST(VarnelCalculator, KeepsTheManagerAndItsModel) {
     VarnelFactory factory;
     VarnelManager manager(&factory);
@@ -272,6 +312,29 @@ TEST(VarnelConverter, HasDefaultsAndStoresWhatItIsGiven) {
     EXPECT_EQ(converter.getManager(), &manager);
     EXPECT_EQ(converter.getDatabase(), manager.getDatabase());
     converter.showDocument();
+    converter.refineMesh();
+}
+
+TEST(VarnelConverter, BuildsItsPathAnewFromTheText) {
+    /// Leaves the protected operations as the base has them.
+    class PlainConverter : public VarnelConverter {
+      public:
+        using VarnelConverter::setCurrentLoadcase;
+        using VarnelConverter::setProjectPath;
+        void output() override {}
+        void initInstance(VarnelManager *) override {}
+        double getTolerance() override { return 0.0; }
+        void setTolerance(double) override {}
+        int convert(VarnelSubSystem *) override { return 2; }
+    } converter;
+    const Tools::Path *path = converter.getProjectPath();
+    converter.setProjectPath("/a/b.xml");
+    converter.setCurrentLoadcase(3);
+    EXPECT_EQ(converter.getProjectPath(), path);
+    EXPECT_EQ(path->path(), "/a/b.xml");
+    EXPECT_EQ(path->file(), "b");
+    converter.setProjectPath("");
+    EXPECT_EQ(path->path(), "");
 }
 
 /// A designer that can be looked at.
@@ -305,8 +368,29 @@ TEST(VarnelDesigner, HasDefaultsAndStoresWhatItIsGiven) {
     EXPECT_DOUBLE_EQ(designer.getMaxDisplacement(), 0.5);
     designer.setProjectPath("/a/b.xml");
     EXPECT_EQ(designer.getProjectPath()->path(), "/a/b.xml");
-    OpenDesigner copy(designer);
-    EXPECT_EQ(copy.getProjectPath(), designer.getProjectPath());
+}
+
+TEST(VarnelDesigner, CopiesShareThePathAndOneOfThemFreesIt) {
+    recording::Script script;
+    VarnelFactory factory;
+    VarnelManager manager(&factory);
+    auto designer = std::make_unique<OpenDesigner>(script);
+    designer->initInstance(&manager);
+    designer->setResultLoadcase(3);
+    designer->setMinValue(0.5);
+    designer->setLineBoundaryResultMode(2);
+    designer->setMaxDisplacement(0.25);
+    const OpenDesigner copy(*designer);
+    designer->setProjectPath("/a/b.xml");
+    EXPECT_EQ(copy.getProjectPath(), designer->getProjectPath());
+    designer.reset();
+    EXPECT_EQ(copy.getProjectPath()->path(), "/a/b.xml");
+    EXPECT_EQ(copy.getManager(), &manager);
+    EXPECT_EQ(copy.getDatabase(), manager.getDatabase());
+    EXPECT_EQ(copy.getResultLoadcase(), 3);
+    EXPECT_DOUBLE_EQ(copy.getMinValue(), 0.5);
+    EXPECT_EQ(copy.getLineBoundaryResultMode(), 2);
+    EXPECT_DOUBLE_EQ(copy.getMaxDisplacement(), 0.25);
 }
 
 TEST(VarnelDesigner, BaseAnswersNothing) {
@@ -334,6 +418,7 @@ TEST(VarnelDesigner, ValuesAtTheThresholdDoNotCount) {
     OpenDesigner designer(script);
     designer.setMinValue(0.5);
     EXPECT_FALSE(designer.checkValues({}));
+    EXPECT_FALSE(designer.checkValues({0.0, 0.4999999}));
     EXPECT_FALSE(designer.checkValues({0.5, -0.5, 0.5}));
     EXPECT_TRUE(designer.checkValues({0.0, -0.5000001}));
     EXPECT_FALSE(designer.checkValues({std::nan("")}));

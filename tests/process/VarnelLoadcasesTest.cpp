@@ -15,6 +15,7 @@
 #include "varnel/members/VarnelPlate.h"
 #include "varnel/model/Varnel.h"
 #include "varnel/model/VarnelDefaultProperties.h"
+#include "varnel/model/VarnelSetupHelper.h"
 #include "varnel/model/VarnelSubSystem.h"
 #include "varnel/process/PlateLocator.h"
 #include "varnel/process/VarnelManager.h"
@@ -131,12 +132,138 @@ TEST_F(VarnelLoadcases, SetupMakesCasesAnewAndUpdateAllKeepsThem) {
     manager.giveLoadcaseToNumber(50, true)->setName("old");
     manager.updateAll();
     EXPECT_NE(named("old"), nullptr);
+    SysBase::Loadcase *own = named("Own weight");
+    manager.setCurrentLoadcase(own->getNumber());
+    manager.updateAll();
+    EXPECT_EQ(named("Own weight"), own);  // found again by its name
+    EXPECT_EQ(manager.getCurrentLoadcase(), own);
     manager.setLoadChanged(false);
     factory.script.take();
     manager.setup();
+    EXPECT_EQ(factory.script.take(), (recording::Calls{"converter.setCurrentLoadcase -1"}));
     EXPECT_EQ(named("old"), nullptr);
     EXPECT_TRUE(manager.loadChanged());
     EXPECT_EQ(manager.getCurrentLoadcase(), nullptr);
+}
+
+TEST_F(VarnelLoadcases, PointLoadsComeBeforeLineLoadsAndAreaLoads) {
+    for (const double x : {0.0, 10.0, 20.0}) addPlate(x, 0, 4, 4);
+    VarnelAreaLoad *area = model->giveAreaLoad();
+    area->setArea(new VarnelAreaRectangle(KzVector3D(1, 1, 0), 2, 2, 0));
+    VarnelLineLoad *line =
+        model->giveLineLoad(new VarnelStraight(KzVector3D(11, 1, 0), KzVector3D(13, 1, 0)));
+    for (VarnelLoad *load : {static_cast<VarnelLoad *>(area), static_cast<VarnelLoad *>(line)})
+        load->setLcType(type(live));
+    addLoad(22, 2, live);
+    manager.setup();
+    std::vector<int> numbers;
+    for (const SysBase::Loadcase *loadcase : manager.getLoadcases()) {
+        numbers.push_back(loadcase->getNumber());
+        EXPECT_EQ(loadcase->getFlag(), 0);
+    }
+    EXPECT_EQ(numbers, (std::vector<int>{1, 4, 3, 2}));
+    ASSERT_NE(area->getLoadcase(), nullptr);
+    EXPECT_EQ(area->getLoadcase()->getNumber(), 2);
+}
+
+TEST_F(VarnelLoadcases, CasesThatNoLoadUsesAnyMoreStayInTheList) {
+    VarnelPlate *plate = addPlate(0, 0, 4, 4);
+    plate->setName("P");
+    VarnelAreaLoad *load = plate->giveAreaLoad(type(live), nullptr);
+    manager.updateAll();
+    SysBase::Loadcase *loadcase = named("Load P");
+    ASSERT_NE(loadcase, nullptr);
+    plate->remove(load);
+    delete load;
+    manager.updateAll();
+    EXPECT_EQ(named("Load P"), loadcase);
+    EXPECT_EQ(loadcase->getFlag(), 1);
+}
+
+// Each subsystem marks all cases anew, so the marks tell of the last one. Hosts see them so.
+TEST_F(VarnelLoadcases, SubSystemsShareCasesByNameAndTheLastOneLeavesTheMarks) {
+    VarnelSubSystem *child = manager.giveSubSystem("child", manager.getCurrentSubSystem());
+    VarnelPlate *plates[] = {addPlate(0, 0, 4, 4), addPlate(10, 0, 4, 4),
+                             child->getDatabase()->givePlate(true)};
+    const char *names[] = {"P", "Q", "P"};
+    for (int i = 0; i < 3; ++i) {
+        plates[i]->setName(names[i]);
+        plates[i]->giveAreaLoad(type(live), nullptr);
+    }
+    manager.setup();
+    EXPECT_EQ(manager.getLoadcases().size(), 3u);
+    EXPECT_EQ(plates[2]->getAreaLoads().front()->getLoadcase(), named("Load P"));
+    EXPECT_EQ(plates[0]->getAreaLoads().front()->getLoadcase(), named("Load P"));
+    EXPECT_EQ(named("Load P")->getFlag(), 0);
+    EXPECT_EQ(named("Load Q")->getFlag(), 1);
+}
+
+TEST_F(VarnelLoadcases, PlatesWithoutLoadsOfTheirOwnHaveNoCase) {
+    addPlate(0, 0, 4, 4)->setName("P");
+    manager.setup();
+    EXPECT_EQ(named("Load P"), nullptr);
+    EXPECT_EQ(manager.getLoadcases().size(), 1u);
+}
+
+TEST_F(VarnelLoadcases, SetupWithoutLoadsMakesNoCases) {
+    VarnelSetupHelper helper;
+    manager.setup(manager.getCurrentSubSystem(), helper, false, true);
+    EXPECT_TRUE(manager.getLoadcases().empty());
+    manager.setup(manager.getCurrentSubSystem(), helper, true, false);
+    EXPECT_EQ(manager.getLoadcases().size(), 1u);
+}
+
+TEST_F(VarnelLoadcases, CasesAreMadeFoundAndRemovedThroughTheVirtualOperations) {
+    class Noting : public VarnelManager {
+      public:
+        using VarnelManager::VarnelManager;
+        SysBase::Loadcase *giveLoadcase(int number) override {
+            calls.push_back("give " + std::to_string(number));
+            return VarnelManager::giveLoadcase(number);
+        }
+        void removeLoadcase(SysBase::Loadcase *loadcase, bool destroy) override {
+            calls.push_back(destroy ? "remove 1" : "remove 0");
+            VarnelManager::removeLoadcase(loadcase, destroy);
+        }
+        SysBase::Loadcase *giveLoadcaseToNumber(int number, bool create) override {
+            calls.push_back("number " + std::to_string(number));
+            return VarnelManager::giveLoadcaseToNumber(number, create);
+        }
+        void setCurrentLoadcase(int number) override {
+            calls.push_back("current " + std::to_string(number));
+            VarnelManager::setCurrentLoadcase(number);
+        }
+        SysBase::Loadcase *giveLoadcaseToName(const std::string &name) override {
+            calls.push_back("name " + name);
+            return VarnelManager::giveLoadcaseToName(name);
+        }
+        recording::Calls calls;
+    } noting(&factory);
+    noting.setLoadcaseAutomation(true);
+    model = noting.getDatabase();
+    VarnelPlate *plate = addPlate(0, 0, 4, 4);
+    plate->setName("P");
+    plate->giveAreaLoad(type(live), nullptr);
+    const std::unique_ptr<VarnelPointLoad> load(addLoad(1, 1, live));
+    noting.setup();
+    noting.remove(load->getLoadcase(), true);
+    EXPECT_EQ(noting.calls, (recording::Calls{"current -1", "name Own weight", "give 1", "name Load P",
+                                              "give 2", "number 2", "remove 1"}));
+}
+
+TEST_F(VarnelLoadcases, HostThatMakesNoCasesIsHarmless) {
+    class Barren : public VarnelManager {
+      public:
+        using VarnelManager::VarnelManager;
+        SysBase::Loadcase *giveLoadcase(int) override { return nullptr; }
+    } barren(&factory);
+    barren.setLoadcaseAutomation(true);
+    model = barren.getDatabase();
+    addPlate(0, 0, 4, 4)->giveAreaLoad(type(live), nullptr);
+    VarnelPointLoad *load = addLoad(1, 1, live);
+    barren.setup();
+    EXPECT_EQ(load->getLoadcase(), nullptr);
+    EXPECT_EQ(barren.findLoadcase(KzVector3D(1, 1, 0)), nullptr);
 }
 
 TEST_F(VarnelLoadcases, DyingCasesAreForgottenEverywhereWithoutAChange) {
@@ -168,6 +295,51 @@ TEST_F(VarnelLoadcases, RemovingACaseLetsItsLoadsGoUndeleted) {
     EXPECT_TRUE(manager.getLoadcases().empty());
     EXPECT_EQ(load->getLoadcase(), loadcase);
     delete loadcase;
+}
+
+TEST_F(VarnelLoadcases, DestroyingACaseLetsItsLoadsGoUndeletedAndWithoutTheCase) {
+    class Mortal : public SysBase::Loadcase {
+      public:
+        Mortal(int number, bool &died) : Loadcase(number), died_(died) {}
+        ~Mortal() override { died_ = true; }
+
+      private:
+        bool &died_;
+    };
+    bool died = false;
+    auto *loadcase = new Mortal(1, died);
+    manager.add(loadcase);
+    const std::unique_ptr<VarnelLoad> loads[] = {std::unique_ptr<VarnelLoad>(model->givePointLoad()),
+                                                 std::unique_ptr<VarnelLoad>(model->giveLineLoad(
+                                                     new VarnelStraight(KzVector3D(), KzVector3D(1, 0, 0)))),
+                                                 std::unique_ptr<VarnelLoad>(model->giveAreaLoad()),
+                                                 std::unique_ptr<VarnelLoad>(model->giveBeamLoad())};
+    for (const auto &load : loads) {
+        load->setLoadcase(loadcase);
+        load->setChanged(false);
+    }
+    VarnelPointLoad *other = addLoad(0, 0, live);
+    manager.remove(loadcase, true);
+    EXPECT_TRUE(died);
+    EXPECT_TRUE(manager.getLoadcases().empty());
+    EXPECT_EQ(model->getPointLoads(), std::list<VarnelPointLoad *>{other});
+    EXPECT_TRUE(model->getLineLoads().empty());
+    EXPECT_TRUE(model->getAreaLoads().empty());
+    EXPECT_TRUE(model->getBeamLoads().empty());
+    for (const auto &load : loads) {
+        EXPECT_EQ(load->getLoadcase(), nullptr);  // their case is dead
+        EXPECT_FALSE(load->getChanged());
+    }
+}
+
+TEST_F(VarnelLoadcases, LoadsOfOtherSubSystemsStayWhenACaseIsRemoved) {
+    VarnelSubSystem *child = manager.giveSubSystem("child", manager.getCurrentSubSystem());
+    const std::unique_ptr<SysBase::Loadcase> loadcase(manager.giveLoadcaseToNumber(1, true));
+    VarnelPointLoad *below = child->getDatabase()->givePointLoad();
+    below->setLoadcase(loadcase.get());
+    manager.remove(loadcase.get(), false);
+    EXPECT_EQ(child->getDatabase()->getPointLoads().size(), 1u);
+    EXPECT_EQ(below->getLoadcase(), loadcase.get());
 }
 
 TEST_F(VarnelLoadcases, CurrentCaseIsToldToTheConverter) {
@@ -211,7 +383,13 @@ TEST_F(VarnelLoadcases, LocatorFindsWhatTheWalkFinds) {
             VarnelPlate *plate = model->givePlate(true);
             const KzVector3D corner(place(random), place(random), 0);
             if (i % 7 == 6) continue;  // without an outline
-            plate->setArea(new VarnelAreaRectangle(corner, size(random), size(random), turn(random)));
+            const double wide = size(random), high = size(random);
+            if (i % 7 == 5)  // a wall, and a roof that leans
+                plate->setArea(new VarnelAreaPolygon({corner, corner + KzVector3D(wide, 0, 0),
+                                                      corner + KzVector3D(wide, i % 2 ? high : 0, high),
+                                                      corner + KzVector3D(0, i % 2 ? high : 0, high)}));
+            else
+                plate->setArea(new VarnelAreaRectangle(corner, wide, high, turn(random)));
         }
         if (round % 5 == 4) {
             VarnelPlate *plate = model->givePlate(true);

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <memory>
+#include <utility>
 
 #include "tests/support/RecordingServices.h"
 #include "tests/support/TemporaryFolder.h"
@@ -11,6 +13,8 @@
 #include "varnel/contracts/KzConcrete.h"
 #include "varnel/contracts/KzMaterialHandler.h"
 #include "varnel/contracts/KzMaterialManager.h"
+#include "varnel/contracts/KzReinfLine.h"
+#include "varnel/contracts/KzReinfLineList.h"
 #include "varnel/contracts/KzReinfMeshHandler.h"
 #include "varnel/contracts/KzReinfMeshList.h"
 #include "varnel/contracts/KzReinfStockMesh.h"
@@ -18,9 +22,13 @@
 #include "varnel/contracts/SDBSectionManager.h"
 #include "varnel/contracts/SysBase/ConstructionStage.h"
 #include "varnel/contracts/SysBase/Loadcase.h"
+#include "varnel/contracts/Tools/TempPath.h"
+#include "varnel/members/VarnelBeam.h"
+#include "varnel/members/VarnelDesignData.h"
 #include "varnel/members/VarnelHole.h"
 #include "varnel/members/VarnelPlate.h"
 #include "varnel/model/Varnel.h"
+#include "varnel/model/VarnelDB.h"
 #include "varnel/model/VarnelSubSystem.h"
 
 namespace {
@@ -44,9 +52,13 @@ TEST_F(VarnelManagerTest, StartsWithOneEmptyCurrentSubSystemNamedSystem) {
     EXPECT_EQ(root->getName(), "System");
     EXPECT_EQ(manager.getDatabase(), root->getDatabase());
     EXPECT_EQ(manager.getDatabase()->getNumberOfPlates(), 0);
+    EXPECT_EQ(manager.getDatabase()->getManager(), &manager);  // the factory was told before
     EXPECT_EQ(manager.getProjectPath().file(), "test");
+    EXPECT_EQ(manager.getProjectPath().directory(), Tools::Path(Tools::getTempPath()).directory());
     EXPECT_EQ(manager.getFactory(), &factory);
     EXPECT_EQ(factory.getManager(), &manager);
+    EXPECT_EQ(manager.getMaterialManager()->getName(), "List");
+    EXPECT_NE(KzMaterialHandler::get()->findMaterialToName("C20/25"), nullptr);
 }
 
 TEST_F(VarnelManagerTest, HasTheDefaultSwitches) {
@@ -221,6 +233,17 @@ TEST_F(VarnelManagerTest, RemovingASubSystemDetachesIt) {
     delete grandchild;
     VarnelSubSystem stranger("stranger", &factory, nullptr);
     EXPECT_EQ(manager.removeSubSystem(&stranger, true), 0);
+    EXPECT_EQ(manager.getSubSystems(), std::list<VarnelSubSystem *>{root});
+    EXPECT_EQ(root->getChildren(), std::list<VarnelSubSystem *>{child});
+}
+
+TEST_F(VarnelManagerTest, ARemovedSubSystemStaysCurrent) {
+    const std::unique_ptr<VarnelSubSystem> formerRoot(root);
+    EXPECT_EQ(manager.removeSubSystem(root, false), 1);
+    EXPECT_TRUE(manager.getSubSystems().empty());
+    EXPECT_EQ(manager.getCurrentSubSystem(), root);
+    manager.setCurrentSubSystem(nullptr);
+    EXPECT_EQ(manager.findSubSystem("x", false), nullptr);
 }
 
 TEST_F(VarnelManagerTest, AddsBelowAParentOrBesideTheRoot) {
@@ -247,6 +270,21 @@ TEST_F(VarnelManagerTest, SeesChangesBelowTheCurrentSubSystemOnly) {
     EXPECT_FALSE(manager.loadChanged());
     manager.setCurrentSubSystem(root);
     EXPECT_TRUE(manager.loadChanged());
+    manager.setCurrentSubSystem(a);
+    manager.setSystemChanged(false);
+    manager.setLoadChanged(false);
+    EXPECT_TRUE(b->getDatabase()->systemChanged());
+    EXPECT_TRUE(b->getDatabase()->loadChanged());
+    manager.setCurrentSubSystem(b);
+    manager.setSystemChanged(false);
+    manager.setLoadChanged(false);
+    EXPECT_FALSE(b->getDatabase()->systemChanged());
+    EXPECT_FALSE(b->getDatabase()->loadChanged());
+    manager.setCurrentSubSystem(root);
+    manager.setLoadChanged(true);
+    EXPECT_TRUE(a->getDatabase()->loadChanged());
+    EXPECT_TRUE(b->getDatabase()->loadChanged());
+    EXPECT_TRUE(manager.hasLoadChanged());
     manager.setCurrentSubSystem(nullptr);
     EXPECT_FALSE(manager.systemChanged());
     EXPECT_EQ(manager.getDatabase(), nullptr);
@@ -352,6 +390,37 @@ TEST_F(VarnelManagerTest, ProtectsResourcesOfTheCurrentSubSystemOnly) {
     plate->setMaterial(nullptr, 0);
 }
 
+TEST_F(VarnelManagerTest, SectionsFoundationsAndMeshesAreProtectedAndLinesNever) {
+    Varnel *model = manager.getDatabase();
+    VarnelPlate *plate = model->givePlate(true);
+    VarnelBeam *beam = model->giveBeam(true);
+    auto *section = new SDBSectionLine("own", 0.1);
+    manager.getSectionManager()->add(section);
+    beam->setSection(section, 0);
+    Found::Foundation *foundation = manager.giveFoundation(nullptr, KzVector3D(0, 0, 5));
+    plate->setFoundation(foundation);
+    KzReinfStockMesh *mesh = manager.getStockMesh("Q335A");
+    VarnelDesignData design;
+    design.setBasicMeshL(mesh);
+    plate->setDesign(&design);
+    auto *line = new KzReinfLine(1, "line");
+    manager.getDgnList()->add(line);
+    beam->setReinfLine(line);
+
+    EXPECT_FALSE(manager.getSectionManager()->remove(section));
+    EXPECT_FALSE(manager.getFoundationManager()->remove(foundation));
+    EXPECT_FALSE(manager.getDgnMeshList()->remove(mesh));
+    EXPECT_TRUE(manager.getDgnList()->remove(line));
+    beam->setReinfLine(nullptr);
+    manager.setCurrentSubSystem(nullptr);
+    EXPECT_TRUE(manager.getSectionManager()->remove(section));
+    EXPECT_TRUE(manager.getFoundationManager()->remove(foundation));
+    EXPECT_TRUE(manager.getDgnMeshList()->remove(mesh));
+    beam->setSection(nullptr, 0);
+    plate->setFoundation(nullptr);
+    plate->setDesign(nullptr);
+}
+
 TEST_F(VarnelManagerTest, UpdatesGeneratedSectionsOfAllModelsBelowTheCurrentOne) {
     class Counting : public Varnel {
       public:
@@ -382,11 +451,76 @@ TEST(VarnelManager, WithoutAFactoryIsEmptyAndHarmless) {
     manager.setup();
 }
 
-TEST(VarnelManager, LoadCasesOutliveTheModels) {
-    recording::Factory factory;
+/// Notes its death in the record of a factory.
+template <class Base>
+class Mortal : public Base {
+  public:
+    template <class... Arguments>
+    Mortal(recording::Script &script, const std::string &name, Arguments &&...arguments)
+        : Base(std::forward<Arguments>(arguments)...), deaths_(script), name_(name) {}
+    ~Mortal() override { deaths_.note("~" + name_); }
+
+  private:
+    recording::Script &deaths_;
+    std::string name_;
+};
+
+class MortalFactory : public recording::Factory {
+    template <class Service>
+    Service *give(const char *name) const {
+        return new Mortal<Service>(script, name, script);
+    }
+    VarnelCalculator *giveCalculator() const override { return give<recording::Calculator>("calculator"); }
+    VarnelConverter *giveConverter() const override { return give<recording::Converter>("converter"); }
+    VarnelDesigner *giveDesigner() const override { return give<recording::Designer>("designer"); }
+    VarnelExchange *giveExchange() const override { return give<recording::Exchange>("exchange"); }
+    VarnelDataChecker *giveDataChecker() override { return give<recording::DataChecker>("checker"); }
+    Varnel *giveDatabase() const override { return new Mortal<VarnelDB>(script, "model", getManager()); }
+};
+
+TEST(VarnelManager, EverythingDiesInOrder) {
+    MortalFactory factory;
+    {
+        VarnelManager manager(&factory);
+        manager.getDataChecker();
+        manager.getExchange();
+        manager.getConverter();
+        manager.getCalculator();
+        manager.getDesigner();
+        manager.getErrorHandler();
+        recording::Script &script = factory.script;
+        auto *generated = new Mortal<SDBSectionLine>(script, "generated section", "generated", 0.1);
+        generated->setUserDefined(false);
+        manager.getDgnMeshList()->addMesh(new Mortal<KzReinfStockMesh>(script, "mesh", "M", 1.0, 1.0));
+        manager.getDgnList()->add(new Mortal<KzReinfLine>(script, "line", 1, "L"));
+        manager.getSectionManager()->add(new Mortal<SDBSectionLine>(script, "section", "own", 0.1));
+        manager.getSectionManager()->add(generated);
+        manager.getMaterialManager()->add(new Mortal<KzConcrete>(script, "material", "C", 2500.0, 25.0));
+        auto *loadcase = new Mortal<SysBase::Loadcase>(script, "load case", 1);
+        manager.add(loadcase);
+        // Things in use do not ask for their users, who are dead by then.
+        VarnelPlate *plate = manager.getDatabase()->givePlate(true);
+        plate->giveAreaLoad(static_cast<SysBase::LoadcaseData::Type>(2), loadcase);
+        manager.getDatabase()->giveBeam(true)->setSection(generated, 0);
+        script.take();
+    }
+    EXPECT_EQ(factory.script.take(),
+              (Calls{"~designer", "~calculator", "~converter", "~exchange", "~checker", "~model", "~material",
+                     "~generated section", "~section", "~mesh", "~line", "~load case"}));
+}
+
+TEST(VarnelManager, ResetDeletesConverterCalculatorAndDesigner) {
+    MortalFactory factory;
     VarnelManager manager(&factory);
-    VarnelPlate *plate = manager.getDatabase()->givePlate(true);
-    plate->giveAreaLoad(static_cast<SysBase::LoadcaseData::Type>(2), manager.giveLoadcaseToNumber(1, true));
+    manager.getDataChecker();
+    manager.getExchange();
+    manager.getDesigner();
+    manager.getCalculator();
+    manager.getConverter();
+    factory.script.take();
+    manager.reset();
+    manager.reset();
+    EXPECT_EQ(factory.script.take(), (Calls{"~converter", "~calculator", "~designer"}));
 }
 
 }  // namespace

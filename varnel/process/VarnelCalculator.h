@@ -60,6 +60,8 @@ class VARNEL_EXPORT VarnelCalculator {
     /// Called once, when the manager has made the calculator: keeps the manager and its current model, both
     /// shared. A null manager leaves both null.
     virtual void initInstance(VarnelManager *manager);
+    /// Writes the results of the last calculation. As all that follows, but execute() and setDoOutput(), it
+    /// is only asked for by hosts; it does nothing here, and answers are null, zero or empty.
     virtual void output();
     /// The calculation. Bit 0 of the answer set means success; this base always answers 2, failure.
     virtual int execute();

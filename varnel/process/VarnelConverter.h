@@ -62,8 +62,12 @@ class VARNEL_EXPORT VarnelConverter {
     virtual void removeAll();
     /// Changes the converted model after a refresh. Nothing here.
     virtual void modifyModel();
+
+  public:
     /// Makes the mesh finer where the last results ask for it. Nothing here; the library never asks for it.
     virtual void refineMesh();
+
+  private:
     /// For hosts that apply construction stages; the library never asks for it.
     virtual void setupConstructionStage(VarnelConstructionStage *stage);
 

@@ -62,14 +62,19 @@ class VARNEL_EXPORT VarnelDesigner {
     virtual void execute(VarnelSubSystem *subSystem);
     /// Called after execute() if the manager's output is switched on.
     virtual void output();
+    /// Told once, when the manager has made the designer. Nothing here.
     virtual void setDoOutput(bool value);
     /// Steps through reinforcement results; false when there is no further one.
     virtual bool loopAs(VarnelAsPlateFunctional &functional) const;
+    /// Hands out the corners of one mesh element after the other, from the first one again after
+    /// meshElementReset(); 0 and untouched arguments here.
     virtual int getMeshElement(std::vector<KzVector3D> &corners, bool deformed, bool &last);
     virtual void meshElementReset();
+    /// Ignored here; see getDisplacementScale().
     virtual void setDisplacementScale(double scale);
     /// Always 1.0 here, whatever was set: scaling is the derived designer's business.
     virtual double getDisplacementScale() const;
+    /// Takes the project's path over; called once, when the manager has made the designer.
     virtual void setProjectPath(const std::string &path);
     /// The word for the beam's kind from the text resource: a beam for element type 1, else a bar. Null
     /// counts as a bar.

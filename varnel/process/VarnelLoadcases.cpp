@@ -1,5 +1,6 @@
 #include <limits>
 #include <unordered_set>
+#include <vector>
 
 #include "varnel/contracts/KzTextResource.h"
 #include "varnel/contracts/SysBase/Loadcase.h"
@@ -37,6 +38,13 @@ void eachFreeLoad(const Varnel &model, Visitor visitor) {
     eachIn(model.getAreaLoads(), visitor);
 }
 
+/// All loads that a model lists; those of plates are their plates' own.
+template <class Visitor>
+void eachListedLoad(const Varnel &model, Visitor visitor) {
+    eachFreeLoad(model, visitor);
+    eachIn(model.getBeamLoads(), visitor);
+}
+
 /// The case of plate n has the number n + 1; the largest number stands for all beyond it.
 int caseNumber(const VarnelPlate &plate) {
     const int number = plate.getNumber();
@@ -55,8 +63,17 @@ void VarnelManager::setCurrentLoadcase(int number) {
 }
 
 void VarnelManager::remove(SysBase::Loadcase *loadcase, bool destroy) {
-    if (Varnel *model = getDatabase()) model->removeLoadsToLoadcase(destroy, loadcase);
-    if (destroy && loadcase) forgetLoadcases({loadcase});
+    const bool dies = destroy && loadcase;
+    std::vector<VarnelLoad *> leaving;  // no longer found in the model when the case dies
+    if (Varnel *model = getDatabase()) {
+        const auto note = [&leaving, loadcase](VarnelLoad &load) {
+            if (load.getLoadcase() == loadcase) leaving.push_back(&load);
+        };
+        if (dies) eachListedLoad(*model, note);
+        model->removeLoadsToLoadcase(destroy, loadcase);
+    }
+    for (VarnelLoad *load : leaving) load->forgetLoadcase(loadcase);
+    if (dies) forgetLoadcases({loadcase});
     removeLoadcase(loadcase, destroy);
 }
 
@@ -69,8 +86,7 @@ void VarnelManager::forgetLoadcases(const std::list<SysBase::Loadcase *> &dying)
     };
     for (VarnelSubSystem *root : subSystems_) {
         varnel::eachModel(root, [&forget](Varnel &model) {
-            eachFreeLoad(model, forget);
-            eachIn(model.getBeamLoads(), forget);
+            eachListedLoad(model, forget);
             eachIn(model.getPlates(),
                    [&forget](const VarnelPlate &plate) { eachIn(plate.getAreaLoads(), forget); });
         });
@@ -82,9 +98,11 @@ void VarnelManager::setupLoads(VarnelSubSystem *subSystem) {
     if (!loadcaseAutomation_) return;
     Varnel *model = subSystem ? subSystem->getDatabase() : nullptr;
     if (!model) return;
+    // Marked for all subsystems anew; cases that stay unused are kept, since setup() alone empties the list.
     for (SysBase::Loadcase *loadcase : getLoadcases()) loadcase->setFlag(unused);
 
     SysBase::Loadcase *dead = giveLoadcaseToName(KzTextResource::get()->loadString(ownWeightText));
+    if (!dead) return;  // a host that makes no cases
     dead->setType(1);
     dead->setOwnWeight(getOwnWeight());
     if (getOwnWeight()) dead->setFlag(used);
@@ -93,6 +111,7 @@ void VarnelManager::setupLoads(VarnelSubSystem *subSystem) {
         if (plate.getAreaLoads().empty()) return;
         SysBase::Loadcase *live =
             giveLoadcaseToName(KzTextResource::get()->loadString(loadText) + " " + plate.getName());
+        if (!live) return;
         live->setType(2);
         eachIn(plate.getAreaLoads(), [dead, live](VarnelAreaLoad &load) {
             SysBase::Loadcase *target = load.isDead() ? dead : live;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <utility>
 
 #include "varnel/contracts/Found/Foundation.h"
 #include "varnel/contracts/Found/FoundationManager.h"
@@ -98,7 +99,7 @@ VarnelManager::~VarnelManager() {
     sectionManager_->removeUser(implementation_.get());
     sectionManager_->removeNotUserDefined();
     // The lists of meshes and lines and the foundations ask nobody while they die, so they need no
-    // deregistration; lines refer to sections and therefore go before their order would matter.
+    // deregistration. The list of lines may outlive its sections.
     sectionManager_.reset();
     dgnMeshList_.reset();
     dgnList_.reset();

@@ -50,6 +50,8 @@ class VARNEL_EXPORT VarnelManager : public SysBase::Manager {
     /// Frees services, subsystems and resources, but not the error handler, which is the host's.
     ~VarnelManager() override;
 
+    /// Load cases are added as the base does it, beside subsystems.
+    using SysBase::Manager::add;
     /// A new load case of that number, the caller's to add.
     SysBase::Loadcase *giveLoadcase(int number) override;
     /// Makes the case of that number current, none for -1 or an unknown number, and tells the converter.
@@ -183,12 +185,14 @@ class VARNEL_EXPORT VarnelManager : public SysBase::Manager {
     void setup();
     /// One subsystem with its children; construction stages are not numbered here.
     void setup(VarnelSubSystem *subSystem, VarnelSetupHelper &helper, bool doLoads, bool flag);
+    /// As update(getCurrentSubSystem()).
     int update();
     /// Data check, conversion, calculation and results, if something changed. 2 also for an unfit model,
     /// whose errors are then displayed.
     int update(VarnelSubSystem *subSystem);
     /// Set-up, then one update for each construction stage; load cases stay, failures are not reported.
     void updateAll();
+    /// Brings the document up to date with the model and writes no file; nothing without an exchange.
     void updateExchange();
     /// A fresh conversion of the current subsystem without a calculation.
     void updateConverter();
@@ -203,9 +207,12 @@ class VARNEL_EXPORT VarnelManager : public SysBase::Manager {
     bool input(const char *path);
 
     int getCurrentStep() const { return currentStep_; }
+    /// Moves on to the step; the former one becomes the last one. Tells converter and calculator, as the two
+    /// below do.
     void setCurrentStep(int step);
     /// The step after the last one, which itself does not move.
     void nextStep();
+    /// Back to 0, the last step too; the converter keeps the last step that it was told.
     void resetStep();
 
     /// Clears the errors and asks the data checker; true without one.

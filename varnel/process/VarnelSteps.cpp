@@ -1,6 +1,8 @@
 #include <iomanip>
+#include <limits>
 #include <locale>
 #include <sstream>
+#include <vector>
 
 #include "varnel/contracts/Found/Foundation.h"
 #include "varnel/contracts/SysBase/ConstructionStage.h"
@@ -253,7 +255,8 @@ void VarnelManager::setCurrentStep(int step) {
 }
 
 void VarnelManager::nextStep() {
-    currentStep_ = lastStep_ + 1;  // the last step itself does not move: only setCurrentStep() counts up
+    // The last step itself does not move: only setCurrentStep() counts up.
+    currentStep_ = lastStep_ < std::numeric_limits<int>::max() ? lastStep_ + 1 : lastStep_;
     if (VarnelConverter *converter = getConverter()) {
         converter->setLastStep(lastStep_);
         converter->setCurrentStep(currentStep_);
