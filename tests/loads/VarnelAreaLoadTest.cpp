@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <functional>
 #include <memory>
 
@@ -83,6 +84,14 @@ TEST(VarnelAreaLoad, IsNullAfterSettingAZeroLoad) {
     load.getP(x, y, z);
     EXPECT_EQ(KzVector3D(0.0, 2.0, 0.0), KzVector3D(x, y, z));
     EXPECT_EQ(load.getP(), load.getData().getP());
+}
+
+TEST(VarnelAreaLoad, TakesALoadUpToTheToleranceForNull) {
+    VarnelAreaLoad load;
+    load.setP(1e-12, -1e-12, 1e-12);
+    EXPECT_TRUE(load.isNull());
+    load.setP(0.0, 0.0, std::nextafter(1e-12, 1.0));
+    EXPECT_FALSE(load.isNull());
 }
 
 TEST(VarnelAreaLoad, MarksAChangeWhereItIsMeantTo) {

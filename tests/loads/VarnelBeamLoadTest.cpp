@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <functional>
 #include <memory>
 
@@ -115,6 +116,10 @@ TEST(VarnelBeamLoad, AnswersAsItsBeam) {
     EXPECT_EQ(beam.getGeo()->getCOG(), load.getCOG());
     EXPECT_FALSE(load.isInPlane(KzMatrix44::getId()));
     EXPECT_TRUE(load.touchesPlane(KzMatrix44::getId()));
+    beam.setLine(KzVector3D(1.0, 2.0, 0.0), KzVector3D(5.0, 2.0, 0.0), 0);
+    EXPECT_TRUE(load.isInPlane(KzMatrix44::getId()));
+    beam.setLine(KzVector3D(1.0, 2.0, 1.0), KzVector3D(5.0, 2.0, 1.0), 0);
+    EXPECT_FALSE(load.touchesPlane(KzMatrix44::getId()));
 }
 
 TEST(VarnelBeamLoad, StoringABeamMarksTheLoadAndNotTheBeam) {
@@ -185,6 +190,15 @@ TEST(VarnelBeamLoad, IsNullWithNullForceAndMoment) {
     EXPECT_EQ(KzVector3D(0.0, 1.0, 0.0), KzVector3D(x, y, z));
     load.getForce(x, y, z);
     EXPECT_EQ(KzVector3D(), KzVector3D(x, y, z));
+}
+
+TEST(VarnelBeamLoad, TakesVectorsUpToTheToleranceForNull) {
+    VarnelBeamLoad load;
+    load.setForce(1e-12, -1e-12, 1e-12);
+    load.setMoment(1e-12, -1e-12, 1e-12);
+    EXPECT_TRUE(load.isNull());
+    load.setMoment(0.0, 0.0, std::nextafter(1e-12, 1.0));
+    EXPECT_FALSE(load.isNull());
 }
 
 TEST(VarnelBeamLoad, NeverFreesABeamThatItWasGiven) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <functional>
 #include <memory>
 #include <typeinfo>
@@ -121,6 +122,27 @@ TEST(VarnelLineLoad, WithOnlyTheMomentAtTheEndIsNotNull) {
     VarnelLineLoad load(straight(KzVector3D(), KzVector3D(2.0, 0.0, 0.0)));
     load.setM2(0.0, 0.0, 1.0);
     EXPECT_FALSE(load.isNull());
+}
+
+TEST(VarnelLineLoad, TakesVectorsUpToTheToleranceForNull) {
+    const KzVector3D least(1e-12, -1e-12, 1e-12);
+    VarnelLineLoad load(nullptr);
+    load.setP1(least);
+    load.setM1(least);
+    load.setP2(least);
+    load.setM2(least);
+    EXPECT_TRUE(load.isNull());
+    load.setM2(0.0, 0.0, std::nextafter(1e-12, 1.0));
+    EXPECT_FALSE(load.isNull());
+}
+
+TEST(VarnelLineLoad, KeepsTheDirectionOfItsLocalSystem) {
+    VarnelLineLoad load(nullptr);
+    load.setLocsys(1.0, 2.0, 3.0);
+    double x = 0.0, y = 0.0, z = 0.0;
+    load.getLocsys(x, y, z);
+    EXPECT_EQ(KzVector3D(1.0, 2.0, 3.0), KzVector3D(x, y, z));
+    EXPECT_EQ(KzVector3D(1.0, 2.0, 3.0), load.getLocsys());
 }
 
 TEST(VarnelLineLoad, MarksAChangeWhereItIsMeantTo) {

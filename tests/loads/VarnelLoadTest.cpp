@@ -2,9 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include <type_traits>
+
 #include "tests/support/VirtualSlot.h"
 #include "varnel/contracts/KzMatrix44.h"
 #include "varnel/contracts/SysBase/Loadcase.h"
+#include "varnel/loads/VarnelAreaLoad.h"
+#include "varnel/loads/VarnelBeamLoad.h"
+#include "varnel/loads/VarnelLineLoad.h"
+#include "varnel/loads/VarnelPointLoad.h"
 
 namespace {
 
@@ -65,6 +71,21 @@ TEST(VarnelLoadData, TakesAnyNumberAsItsType) {
     VarnelLoadData data;
     data.setType(-17);
     EXPECT_EQ(-17, data.getType());
+}
+
+TEST(VarnelLoadData, HasNoVirtualOperations) {
+    EXPECT_FALSE(std::is_polymorphic<VarnelLoadData>::value);
+    EXPECT_FALSE(std::is_polymorphic<VarnelPointLoadData>::value);
+    EXPECT_FALSE(std::is_polymorphic<VarnelBeamLoadData>::value);
+    EXPECT_FALSE(std::is_polymorphic<VarnelLineLoadData>::value);
+    EXPECT_FALSE(std::is_polymorphic<VarnelAreaLoadData>::value);
+}
+
+TEST(VarnelLoad, OfPointsAndLinesAloneCanBeSwitchedOff) {
+    EXPECT_TRUE((std::is_base_of<VarnelStateObject, VarnelPointLoad>::value));
+    EXPECT_TRUE((std::is_base_of<VarnelStateObject, VarnelLineLoad>::value));
+    EXPECT_FALSE((std::is_base_of<VarnelStateObject, VarnelBeamLoad>::value));
+    EXPECT_FALSE((std::is_base_of<VarnelStateObject, VarnelAreaLoad>::value));
 }
 
 TEST(VarnelLoad, IsBornUnchangedDeadAndWithoutALoadcase) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <functional>
 #include <memory>
 
@@ -170,6 +171,7 @@ TEST(VarnelPointLoad, CanBeMadeOfARecordAndAPlace) {
     EXPECT_EQ(KzVector3D(1.0, 2.0, 3.0), load.getCOG());
     EXPECT_EQ(KzVector3D(0.0, 0.0, 5.0), load.getForce());
     EXPECT_EQ("crane", load.getName());
+    EXPECT_FALSE(load.getChanged());
     EXPECT_NE(data.getBase(), load.getData().getBase());
 }
 
@@ -182,6 +184,15 @@ TEST(VarnelPointLoad, WithOnlyTheDisplacementFlagIsNull) {
     EXPECT_FALSE(load.isNull());
     load.setMoment(KzVector3D());
     load.setForce(0.0, 1.0, 0.0);
+    EXPECT_FALSE(load.isNull());
+}
+
+TEST(VarnelPointLoad, TakesVectorsUpToTheToleranceForNull) {
+    VarnelPointLoad load;
+    load.setForce(1e-12, -1e-12, 1e-12);
+    load.setMoment(1e-12, -1e-12, 1e-12);
+    EXPECT_TRUE(load.isNull());
+    load.setMoment(0.0, 0.0, std::nextafter(1e-12, 1.0));
     EXPECT_FALSE(load.isNull());
 }
 
@@ -199,6 +210,7 @@ TEST(VarnelPointLoad, MarksAChangeWhereItIsMeantTo) {
         {"setBase", [](VarnelPointLoad &l) { l.setBase(KzMatrix44::getId()); }, true},
         {"setLoadcase", [](VarnelPointLoad &l) { l.setLoadcase(nullptr); }, true},
         {"setCoor", [](VarnelPointLoad &l) { l.setCoor(KzVector3D(1.0, 0.0, 0.0)); }, false},
+        {"setCoor of numbers", [](VarnelPointLoad &l) { l.setCoor(1.0, 0.0, 0.0); }, false},
         {"setData", [](VarnelPointLoad &l) { l.setData(VarnelPointLoadData()); }, false},
         {"setAngle", [](VarnelPointLoad &l) { l.setAngle(0.5, 2); }, false},
         {"setDispLoad", [](VarnelPointLoad &l) { l.setDispLoad(true); }, false},
@@ -220,6 +232,10 @@ TEST(VarnelPointLoad, MovingItMarksThePointAndNotTheLoad) {
     EXPECT_TRUE(load.getPoint()->getChanged());
     EXPECT_FALSE(load.getChanged());
     EXPECT_EQ(KzVector3D(1.0, 2.0, 3.0), load.getCoor());
+    load.setCoor(4.0, 5.0, 6.0);
+    double x = 0.0, y = 0.0, z = 0.0;
+    load.getCoor(x, y, z);
+    EXPECT_EQ(KzVector3D(4.0, 5.0, 6.0), KzVector3D(x, y, z));
 }
 
 TEST(VarnelPointLoad, PassesValuesToItsRecord) {

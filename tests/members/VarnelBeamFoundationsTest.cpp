@@ -37,6 +37,7 @@ TEST_F(VarnelBeamFoundations, AreGivenByTheManagerAtBothEnds) {
     EXPECT_EQ(1.0, part.getPosE());
     EXPECT_EQ(one_, dispLine(part.getFStart()));
     EXPECT_EQ(two_, dispLine(part.getFEnd()));
+    EXPECT_EQ(part.getFStart()->getNumber() + 1, part.getFEnd()->getNumber()) << "the start comes first";
     EXPECT_TRUE(beam_.checkUsed(part.getFStart()));
     EXPECT_TRUE(beam_.checkUsed(part.getFEnd()));
 }

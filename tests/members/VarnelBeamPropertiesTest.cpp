@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <climits>
+#include <cmath>
 #include <memory>
+#include <type_traits>
 
 #include "varnel/contracts/FireDesign/TemperatureDistribution.h"
 #include "varnel/contracts/Found/Foundation.h"
@@ -83,6 +85,14 @@ TEST(VarnelBeamProperties, HasAnOffsetIfOneEndHas) {
         data.setOffset(KzVector3D(), index);
         EXPECT_FALSE(data.hasOffset());
     }
+}
+
+TEST(VarnelBeamProperties, TakesOffsetsUpToTheToleranceForNone) {
+    VarnelBeamProperties data;
+    data.setOffset(KzVector3D(1e-12, -1e-12, 1e-12), 0);
+    EXPECT_FALSE(data.hasOffset());
+    data.setOffset(KzVector3D(0.0, 0.0, std::nextafter(1e-12, 1.0)), 1);
+    EXPECT_TRUE(data.hasOffset());
 }
 
 TEST(VarnelBeamProperties, KnowsAConcreteFromAnotherMaterial) {
@@ -189,6 +199,7 @@ TEST(VarnelBeamProperties, CopiesAllValuesAndOwnedParts) {
 
 TEST(VarnelFoundedPart, IsBornEmptyAndKnowsItsFoundations) {
     Found::Foundation a(KzVector3D(0.0, 0.0, 1.0)), b(KzVector3D(0.0, 0.0, 2.0)), c{KzVector3D()};
+    EXPECT_FALSE(std::is_polymorphic<VarnelFoundedPart>::value);
     VarnelFoundedPart part;
     EXPECT_EQ(0.0, part.getPosA());
     EXPECT_EQ(0.0, part.getPosE());

@@ -7,6 +7,7 @@
 #include <memory>
 #include <string>
 
+#include "tests/support/Noted.h"
 #include "tests/support/RecordingObjectVisitor.h"
 #include "tests/support/VirtualSlot.h"
 #include "varnel/contracts/Found/Foundation.h"
@@ -28,6 +29,8 @@
 #include "varnel/results/VarnelGapResultState.h"
 
 namespace {
+
+using varnel::Noted;
 
 /// A beam that counts as unchanged until it is touched.
 struct QuietBeam : VarnelBeam {
@@ -94,6 +97,8 @@ TEST(VarnelBeam, MarksAChangeWhereItIsMeantTo) {
         {"remove joint", [](VarnelBeam &b) { b.remove(&stranger); }, true},
         {"removeJoints", [](VarnelBeam &b) { b.removeJoints(); }, true},
         {"setSection", [](VarnelBeam &b) { b.setSection(nullptr, 0); }, true},
+        {"setSection beyond the ends", [](VarnelBeam &b) { b.setSection(nullptr, 2); }, true},
+        {"setOffset beyond the ends", [](VarnelBeam &b) { b.setOffset(KzVector3D(), 2); }, true},
         {"setOffset", [](VarnelBeam &b) { b.setOffset(KzVector3D(), 0); }, true},
         {"setData", [](VarnelBeam &b) { b.setData(VarnelBeamProperties()); }, true},
         {"setDesign", [](VarnelBeam &b) { b.setDesign(nullptr); }, true},
@@ -380,18 +385,6 @@ TEST(VarnelBeam, RemovesResultsWithThoseOfItsGaps) {
     EXPECT_TRUE(beam.getDesignResults().empty());
 }
 
-/// A result record that notes its death.
-template <class Location>
-struct Noted : Location {
-    Noted(std::string &notes, char sign) : notes_(notes), sign_(sign) {}
-    Noted(const Noted &) = delete;
-    Noted &operator=(const Noted &) = delete;
-    ~Noted() override { notes_ += sign_; }
-
-    std::string &notes_;
-    char sign_;
-};
-
 TEST(VarnelBeam, RemovesStatesThenLeftAndRightGapThenDesignResults) {
     std::string notes;
     VarnelBeam beam;
@@ -405,6 +398,36 @@ TEST(VarnelBeam, RemovesStatesThenLeftAndRightGapThenDesignResults) {
     beam.giveResultState(1)->add(new Noted<SysBase::BeamStressResultantsLocation>(notes, 'S'));
     beam.removeResults();
     EXPECT_EQ("SLRD", notes);
+}
+
+TEST(VarnelBeam, DiesFromItsResultsOverItsJointsToItsAxis) {
+    std::string notes;
+    {
+        VarnelBeam beam;
+        beam.setGeo(new Noted<VarnelBeamGeo>(notes, 'A'));
+        beam.add(new Noted<VarnelJoint>(notes, 'J', 0.5, 1));
+        beam.add(new Noted<SysBase::BeamDesignLocation>(notes, 'D'));
+        beam.setLeftGap(new VarnelGapControl());
+        beam.setRightGap(new VarnelGapControl());
+        beam.getRightGap()->giveResultState(1)->add(new Noted<SysBase::InterfaceStressLocation>(notes, 'R'));
+        beam.getLeftGap()->giveResultState(1)->add(new Noted<SysBase::InterfaceStressLocation>(notes, 'L'));
+        beam.giveResultState(1)->add(new Noted<SysBase::BeamStressResultantsLocation>(notes, 'S'));
+    }
+    EXPECT_EQ("SLRDJA", notes);
+}
+
+TEST(VarnelBeam, DyingLetsGoOfAGapAtBothEndsBeforeItsAxis) {
+    std::string notes;
+    {
+        VarnelBeam beam;
+        beam.setGeo(new Noted<VarnelBeamGeo>(notes, 'A'));
+        beam.add(new Noted<VarnelJoint>(notes, 'J', 0.5, 1));
+        auto *gap = new VarnelGapControl();
+        gap->giveResultState(1)->add(new Noted<SysBase::InterfaceStressLocation>(notes, 'G'));
+        beam.setLeftGap(gap);
+        beam.setRightGap(gap);
+    }
+    EXPECT_EQ("JGA", notes);
 }
 
 TEST(VarnelBeam, WithoutGapsRemovesItsOwnResults) {
@@ -460,8 +483,10 @@ TEST(VarnelBeam, UsesItsOwnFoundation) {
     Found::Foundation mine(KzVector3D(0.0, 0.0, 1.0)), other(KzVector3D(0.0, 0.0, 2.0));
     VarnelBeam beam;
     EXPECT_FALSE(beam.checkUsed(&mine));
+    EXPECT_TRUE(beam.checkUsed(nullptr)) << "the foundation that it has none of";
     beam.setFoundation(&mine);
     EXPECT_TRUE(beam.checkUsed(&mine));
+    EXPECT_FALSE(beam.checkUsed(nullptr));
     EXPECT_FALSE(beam.checkUsed(&other));
 }
 

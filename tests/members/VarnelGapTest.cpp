@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
+#include <limits>
 #include <memory>
+#include <type_traits>
 
 #include "tests/support/VirtualSlot.h"
 #include "varnel/geometry/VarnelArea.h"
@@ -12,7 +15,20 @@
 
 namespace {
 
+/// An outline that counts its vertices and always says that it is changed.
+class RestlessArea : public VarnelArea {
+  public:
+    void addVertex(const KzVector3D &coordinates) override {
+        ++vertices;
+        VarnelArea::addVertex(coordinates);
+    }
+    bool getChanged() const override { return true; }
+
+    int vertices = 0;
+};
+
 TEST(VarnelGapControl, IsBornThinAndWithoutResults) {
+    EXPECT_FALSE(std::is_polymorphic<VarnelGapControl>::value);
     const VarnelGapControl control;
     EXPECT_EQ(0.01, control.getThick());
     EXPECT_TRUE(control.getResultStates().empty());
@@ -100,6 +116,20 @@ TEST(VarnelGap, WithTwoVerticesRunsOutAndBack) {
     gap.add(KzVector3D(3.0, 2.0, 0.0));
     EXPECT_EQ(3u, gap.numberOfLines());
     EXPECT_EQ(KzVector3D(3.0, 2.0, 0.0), gap.getVertex(2));
+    EXPECT_EQ(KzVector3D(1.0, 0.0, 0.0), gap.getVertex(3)) << "the end of the last line";
+    EXPECT_EQ(KzVector3D(1.0, 0.0, 0.0), gap.getVertex(std::numeric_limits<std::size_t>::max()));
+}
+
+TEST(VarnelGap, AsksTheOutlineThatItHasThroughItsVirtualOperations) {
+    VarnelGap gap;
+    auto *outline = new RestlessArea;
+    gap.setPolyline(outline);
+    gap.add(KzVector3D());
+    gap.add(KzVector3D(1.0, 0.0, 0.0));
+    EXPECT_EQ(outline, gap.getPolyline());
+    EXPECT_EQ(2, outline->vertices);
+    gap.setChanged(false);
+    EXPECT_TRUE(gap.getChanged());
 }
 
 TEST(VarnelGap, IsChangedWithItsOutlineAndPassesTheFlagToIt) {

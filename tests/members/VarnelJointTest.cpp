@@ -3,6 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <string>
+
+#include "tests/support/Noted.h"
 
 namespace {
 
@@ -22,6 +25,12 @@ TEST(VarnelJoint, IsBornOfStationAndDegreesOfFreedom) {
     EXPECT_EQ(nullptr, plain.getStiffness());
     EXPECT_EQ(nullptr, plain.getYield());
     EXPECT_EQ(3, VarnelJoint(0.25, 5, 3).getType());
+}
+
+TEST(VarnelJoint, DiesAsWhatItIs) {
+    std::string notes;
+    std::unique_ptr<VarnelJoint>(new varnel::Noted<VarnelJoint>(notes, 'J', 0.25, 5));
+    EXPECT_EQ("J", notes);
 }
 
 TEST(VarnelJoint, StoresWhatItIsGiven) {

@@ -7,6 +7,7 @@
 #include <memory>
 #include <string>
 
+#include "tests/support/Noted.h"
 #include "tests/support/Places.h"
 #include "tests/support/RecordingObjectVisitor.h"
 #include "tests/support/VirtualSlot.h"
@@ -18,12 +19,14 @@
 #include "varnel/loads/VarnelAreaLoad.h"
 #include "varnel/members/VarnelDesignData.h"
 #include "varnel/members/VarnelLineBoundaryData.h"
+#include "varnel/members/VarnelPlateEdgeData.h"
 #include "varnel/members/VarnelPlateProperties.h"
 #include "varnel/model/VarnelDB.h"
 
 namespace {
 
 using varnel::isNear;
+using varnel::Noted;
 using varnel::planeAtHeight;
 using varnel::virtualSlot;
 
@@ -375,12 +378,26 @@ TEST(VarnelPlate, ARemovedLoadIsTheCallers) {
     const auto plate = quietPlate();
     const std::unique_ptr<VarnelAreaLoad> load(plate->giveAreaLoad(dead, nullptr));
     plate->add(new VarnelAreaLoad);
+    plate->setChanged(false);
     plate->remove(load.get());
+    EXPECT_FALSE(plate->getChanged());
     EXPECT_EQ(1u, plate->getAreaLoads().size());
     VarnelAreaLoad stranger;
     plate->remove(&stranger);
     EXPECT_EQ(1u, plate->getAreaLoads().size());
     EXPECT_EQ(dead, load->getLcType());
+}
+
+TEST(VarnelPlate, DiesFromItsEdgesOverItsLoadsToItsOutline) {
+    std::string notes;
+    {
+        VarnelPlate plate(nullptr);
+        plate.setArea(new Noted<VarnelAreaRectangle>(notes, 'O', KzVector3D(), 4.0, 3.0, 0.0));
+        plate.add(new Noted<VarnelAreaLoad>(notes, 'L'));
+        plate.setEdgeJoint(0, 1);
+        plate.getEdgeData(0)->setBoundary(new Noted<VarnelLineBoundaryData>(notes, 'E'));
+    }
+    EXPECT_EQ("ELO", notes);
 }
 
 TEST(VarnelPlate, AppendsItsVirtualOperationsToThoseOfAnOutlinedObject) {

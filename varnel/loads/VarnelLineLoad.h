@@ -37,6 +37,7 @@ class VARNEL_EXPORT VarnelLineLoad : public VarnelLoad, public VarnelStateObject
 
     /// Direction that fixes the local system about the line; setting it marks the load as changed.
     KzVector3D getLocsys() const { return locsys_; }
+    void getLocsys(double &x, double &y, double &z) const { locsys_.getXYZ(x, y, z); }
     void setLocsys(const KzVector3D &locsys);
     void setLocsys(double x, double y, double z) { setLocsys(KzVector3D(x, y, z)); }
     locsysType getLocsysType() const { return locsysType_; }

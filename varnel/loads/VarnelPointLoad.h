@@ -15,6 +15,7 @@ class VARNEL_EXPORT VarnelPointLoad : public VarnelLoad, public VarnelStateObjec
   public:
     /// An empty load at the origin.
     VarnelPointLoad();
+    /// A copy of the record, at a place.
     VarnelPointLoad(const VarnelPointLoadData &data, const KzVector3D &coor);
     /// Has a point and a record of its own.
     VarnelPointLoad(const VarnelPointLoad &other);
@@ -30,8 +31,10 @@ class VARNEL_EXPORT VarnelPointLoad : public VarnelLoad, public VarnelStateObjec
     VarnelPoint *getPoint() const { return point_.get(); }
     VarnelPoint *getGeo() const { return point_.get(); }
     const KzVector3D &getCoor() const { return point_->getCoor(); }
+    void getCoor(double &x, double &y, double &z) const { getCoor().getXYZ(x, y, z); }
     /// Moves the point. Meant to mark the point as changed and not the load.
     void setCoor(const KzVector3D &coor) { point_->setCoor(coor); }
+    void setCoor(double x, double y, double z) { setCoor(KzVector3D(x, y, z)); }
 
     /// The record's vectors; setting one marks the load as changed.
     KzVector3D getForce() const { return data_.getForce(); }

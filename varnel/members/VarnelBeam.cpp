@@ -56,6 +56,11 @@ bool isStation(double pos) {
     return 0.0 <= pos && pos <= 1.0;
 }  // in this form false for NaN
 
+/// Results that another owner of the gap still sees stay with it.
+void removeUnsharedResults(const varnel::Held<VarnelGapControl> &gap) {
+    if (gap && gap->owners() == 1) gap->removeResults();
+}
+
 }  // namespace
 
 VarnelBeam::VarnelBeam() : geometry_(makeZeroLine()), data_(new VarnelBeamProperties()) {}
@@ -94,9 +99,14 @@ VarnelBeam &VarnelBeam::operator=(const VarnelBeam &other) {
 
 VarnelBeam::~VarnelBeam() {
     varnel::releaseAll(resultStates_);
+    removeUnsharedResults(leftGap_);
+    removeUnsharedResults(rightGap_);
     varnel::releaseAll(designResults_);
     varnel::releaseAll(joints_);
     varnel::releaseAll(foundations_);
+    leftGap_.reset();
+    rightGap_.reset();
+    geometry_.reset();
 }
 
 void VarnelBeam::setLeftGap(VarnelGapControl *gap) {
