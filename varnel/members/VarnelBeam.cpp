@@ -97,6 +97,7 @@ VarnelBeam &VarnelBeam::operator=(const VarnelBeam &other) {
     return *this;
 }
 
+// Explicit, since the members' own order would free the gaps last: hosts see results, joints and axis die.
 VarnelBeam::~VarnelBeam() {
     varnel::releaseAll(resultStates_);
     removeUnsharedResults(leftGap_);
