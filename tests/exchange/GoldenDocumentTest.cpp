@@ -5,9 +5,13 @@
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <sstream>
+#include <vector>
 
 #include "tests/support/CompleteProject.h"
 #include "tests/support/Document.h"
+#include "tests/support/RandomModel.h"
+#include "tests/support/RecordingServices.h"
 #include "tests/support/TemporaryFolder.h"
 #include "varnel/varnel.h"
 
@@ -44,19 +48,78 @@ TEST_F(GoldenDocument, EverythingIsWrittenAsItStands) {
     EXPECT_EQ(project.write(), contentOf(everything));
 }
 
+/// What the validator says of the documents against the schema; empty for valid ones.
+std::string errorsOf(const std::vector<std::string> &paths, const TemporaryFolder &folder) {
+    std::string command = "xmllint --noout --relaxng docs/schema/varnel.rng";
+    for (const std::string &path : paths) command += " '" + path + "'";
+    const bool valid = std::system((command + " 2> '" + folder.file("errors.txt") + "'").c_str()) == 0;
+    return valid ? "" : "invalid: " + folder.read("errors.txt");
+}
+
 TEST_F(GoldenDocument, DocumentsAreValid) {
     const TemporaryFolder folder;
     read(olderForms);
     document.manager.setLoadcaseAutomation(false);
     folder.write("older.xml", document.write());
     folder.write("empty.xml", Document().write());
-    for (const std::string &path :
-         {std::string(everything), folder.file("older.xml"), folder.file("empty.xml")}) {
-        SCOPED_TRACE(path);
-        const std::string command = "xmllint --noout --relaxng docs/schema/varnel.rng '" + path + "' 2> '" +
-                                    folder.file("errors.txt") + "'";
-        EXPECT_EQ(std::system(command.c_str()), 0) << folder.read("errors.txt");
+    EXPECT_EQ(errorsOf({everything, folder.file("older.xml"), folder.file("empty.xml")}, folder), "");
+}
+
+TEST_F(GoldenDocument, DocumentsOfRandomProjectsAreValid) {
+    const TemporaryFolder folder;
+    std::vector<std::string> paths;
+    for (unsigned seed = 0; seed < 40; ++seed) {
+        resetDefaults();
+        recording::DocumentFactory factory;
+        VarnelManager manager(&factory);
+        varnel::test::RandomModel model(manager, seed, seed % 2 == 0);
+        model.fill();
+        model.setProcessDefaults();
+        model.addResults();
+        paths.push_back(folder.file(std::to_string(seed) + ".xml"));
+        manager.output(paths.back().c_str());
+        // The second document of an unchanged project holds load cases and results as well.
+        if (seed % 2 == 0) manager.output(paths.back().c_str());
     }
+    EXPECT_EQ(errorsOf(paths, folder), "");
+}
+
+/// An exchange of a host that wants the lists of points and lines, too.
+class WithPointsAndLines : public VarnelExchangeXml {
+  public:
+    WithPointsAndLines() {
+        setWritePoints(true);
+        setWriteLines(true);
+    }
+};
+
+TEST_F(GoldenDocument, DocumentWithForeignContentAndFurtherListsIsValid) {
+    const TemporaryFolder folder;
+    WithPointsAndLines exchange;
+    std::string content = "<FOREIGN/>";
+    for (const char *list : {"MATERIALS", "SECTIONS", "MESHES", "FOUNDATIONS"})
+        content += std::string("<") + list + " FOREIGN=\"1\"><FOREIGN/></" + list + ">";
+    std::istringstream stream("<VARNEL FOREIGN=\"1\">" + content +
+                              "<SUBSYSTEM FOREIGN=\"1\"><FOREIGN A=\"1\">x</FOREIGN><REFINEPOLYS/><GAPS "
+                              "FOREIGN=\"1\"><FOREIGN/></GAPS>"
+                              "</SUBSYSTEM><SUBSYSTEM NAME=\"Second\"/></VARNEL>");
+    exchange.getTree()->buildOfStream(stream);
+    exchange.get(&document.manager);
+    Varnel &model = document.model();
+    model.givePoint(KzVector3D(1, 2, 3));
+    // All lines meet in one element, whatever their kind.
+    model.add(new VarnelStraight(KzVector3D(), KzVector3D(1, 0, 0)));
+    model.add(new VarnelCircle(KzVector3D(), KzVector3D(1, 0, 0), KzVector3D(0, 1, 0)));
+    model.add(new VarnelStraight(KzVector3D(), KzVector3D(2, 0, 0)));
+    document.manager.setup();
+    exchange.updateSystem(&document.manager);
+    std::ostringstream text;
+    exchange.getTree()->putToStream(text, true);
+    for (const char *kept : {"<VARNEL FOREIGN=\"1\">", "<SUBSYSTEM FOREIGN=\"1\"", "<GAPS FOREIGN=\"1\">",
+                             "<MATERIALS FOREIGN=\"1\">", "<SECTIONS FOREIGN=\"1\">",
+                             "<MESHES FOREIGN=\"1\">", "<FOUNDATIONS FOREIGN=\"1\">", "NAME=\"Second\""})
+        EXPECT_NE(text.str().find(kept), std::string::npos) << kept;
+    EXPECT_EQ(errorsOf({folder.write("foreign.xml", text.str())}, folder), "") << text.str();
 }
 
 TEST_F(GoldenDocument, ResourcesAndSettingsOfEverythingAreRead) {

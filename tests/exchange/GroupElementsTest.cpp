@@ -135,6 +135,18 @@ TEST_F(GroupElements, NullGroupsAreSkipped) {
     EXPECT_EQ(written(), "<GROUPS></GROUPS>");
 }
 
+TEST_F(GroupElements, GroupsOfOneNameMeetInOneElement) {
+    VarnelBeam *beam = model().giveBeam(true);
+    VarnelPlate *plate = model().givePlate(true);
+    addGroup("g")->add(beam);
+    auto *second = new VarnelObjectGroup("g");
+    second->setCalculate(false);
+    second->add(plate);
+    model().add(second);
+    EXPECT_EQ(written(), "<GROUPS><GROUP NAME=\"g\" USER=\"1\" CALC=\"0\">" + base +
+                             "<OBJECT NUMBER=\"1\" BEAM=\"1\" PLATE=\"1\"></OBJECT></GROUP></GROUPS>");
+}
+
 TEST_F(GroupElements, RemovedObjectIsNotWritten) {
     VarnelObjectGroup *group = addGroup("g");
     VarnelBeam *beam = model().giveBeam(true);
@@ -151,6 +163,7 @@ TEST_F(GroupElements, ListIsRebuilt) {
 }
 
 TEST_F(GroupElements, GroupIsRead) {
+    document.manager.setSystemChanged(false);
     readGroups("<GROUP NAME=\"a\" USER=\"0\" CALC=\"0\"><BASE>" + vectorElement("OFFSET", 1, 2.5, -3) +
                "</BASE></GROUP>");
     ASSERT_EQ(model().getObjectGroups().size(), 1u);
@@ -173,6 +186,14 @@ TEST_F(GroupElements, MissingItemsLeaveTheGroup) {
     EXPECT_FALSE(known->getUserDefined());
     EXPECT_FALSE(known->getCalculate());
     EXPECT_TRUE(known->getBase().getVector(3) == KzVector3D(1, 2, 3));
+}
+
+TEST_F(GroupElements, OffsetIsFoundWhereverItStandsInTheGroup) {
+    const std::string moved = "<BASE>" + vectorElement("OFFSET", 1, 2, 3) + "</BASE>";
+    readGroups("<GROUP NAME=\"a\"><ANY/><OBJECT/>" + moved + "<OBJECT/></GROUP><GROUP NAME=\"b\"><ANY>" +
+               moved + "</ANY></GROUP>");
+    EXPECT_TRUE(model().findObjectGroupToName("a")->getBase().getVector(3) == KzVector3D(1, 2, 3));
+    EXPECT_TRUE(model().findObjectGroupToName("b")->getBase().getVector(3) == KzVector3D());  // too deep
 }
 
 TEST_F(GroupElements, AnyNumberButZeroSwitchesOn) {
@@ -304,6 +325,7 @@ TEST_F(GroupElements, ResultSectionsAreWrittenInOrder) {
 }
 
 TEST_F(GroupElements, ResultSectionsAreReadAndNumberedByTheirPlace) {
+    document.manager.setSystemChanged(false);
     readSections("<RESULTSECTION NUMBER=\"7\" NAME=\"A\">" + vectorElement("START", 1, 2, 3) +
                  vectorElement("END", 4, 5, 6) + "</RESULTSECTION><ANY/><RESULTSECTION NUMBER=\"9\"/>");
     ASSERT_EQ(model().getResultSections().size(), 2u);  // children of another name make nothing

@@ -74,6 +74,12 @@ TEST_F(LoadcaseElements, ModelWithAGapNeverHasItsCasesWritten) {
     EXPECT_NE(writtenUnchanged(), "<LOADCASES></LOADCASES>");
 }
 
+TEST_F(LoadcaseElements, ElementIsEmptiedAlsoWithoutAManager) {
+    readCases("<LOADCASE NUMBER=\"9\"/>", "CURRENT=\"9\"");
+    document.exchange().updateLoadcases(nullptr);
+    EXPECT_EQ(textOf(document.find({"LOADCASES"})), "<LOADCASES></LOADCASES>");
+}
+
 TEST_F(LoadcaseElements, ElementIsRebuilt) {
     readCases("<LOADCASE NUMBER=\"9\" OLD=\"1\"><OLD/></LOADCASE>", "OLD=\"1\" CURRENT=\"9\"");
     document.manager.remove(loadcase(9), true);

@@ -136,6 +136,27 @@ TEST_F(ResultElements, OldCasesOfABeamDisappear) {
               "<LOADCASES><LOADCASE NUMBER=\"2\"><DISPS></DISPS><STRESS></STRESS></LOADCASE></LOADCASES>");
 }
 
+TEST_F(ResultElements, OldCasesOfSupportsDisappear) {
+    addCase(1);
+    written("PBOUNDS");
+    manager.remove(manager.giveLoadcaseToNumber(1, false), true);
+    addCase(2);
+    EXPECT_EQ(textOf(updated("PBOUNDS")->findChild("LOADCASES")),
+              "<LOADCASES><LOADCASE NUMBER=\"2\"><SUP FX=\"0\" FY=\"0\" FZ=\"0\" MX=\"0\" MY=\"0\" MZ=\"0\">"
+              "</SUP></LOADCASE></LOADCASES>");
+    EXPECT_EQ(textOf(updated("LBOUNDS")->findChild("LOADCASES")),
+              "<LOADCASES><LOADCASE NUMBER=\"2\"></LOADCASE></LOADCASES>");
+}
+
+TEST_F(ResultElements, NullEntriesOfTheListsAreSkipped) {
+    addCase(1);
+    model().add(static_cast<VarnelBeam *>(nullptr));
+    model().add(static_cast<VarnelPointBoundary *>(nullptr));
+    model().add(static_cast<VarnelLineBoundary *>(nullptr));
+    for (const char *list : {"BEAMS", "PBOUNDS", "LBOUNDS"})
+        EXPECT_EQ(written(list)->getParent()->getChildren().size(), 1u) << list;
+}
+
 TEST_F(ResultElements, SupportHasItsReactionsForPrimaryCases) {
     addCase(1, false);
     addCase(2);
@@ -197,6 +218,18 @@ TEST_F(ResultElements, WithoutCasesBeamsKeepTheirListAndSupportsLoseIt) {
     EXPECT_EQ(updated("PBOUNDS")->findChild("LOADCASES"), nullptr);
     EXPECT_EQ(updated("LBOUNDS")->findChild("LOADCASES"), nullptr);
     EXPECT_TRUE(designer().asked.empty());
+}
+
+TEST_F(ResultElements, NoDesignerIsMadeWithoutCases) {
+    manager.reset();
+    host.designer = nullptr;
+    model().givePointBoundary(KzVector3D(), 7);
+    exchange().updateSystem(&manager);
+    exchange().updateResults(&manager);
+    EXPECT_EQ(host.designer, nullptr);
+    addCase(1);
+    exchange().updateResults(&manager);
+    EXPECT_NE(host.designer, nullptr);
 }
 
 TEST_F(ResultElements, WritingTheSystemRemovesAllResults) {
@@ -312,6 +345,22 @@ TEST_F(ResultElements, HostOverridesTheResultsOfALineSupport) {
     EXPECT_NE(textOf(own.getTree()->getRoot()).find("<LBOUND NUMBER=\"1\" OWN=\"1\"></LBOUND>"),
               std::string::npos);
     EXPECT_EQ(own.getManager(), &manager);
+}
+
+TEST_F(ResultElements, HostOverridesTheResultsOfEverySubSystem) {
+    class Own : public VarnelExchangeXml {
+      public:
+        void updateResultsToSubSystem(VarnelSubSystem *subSystem) override {
+            names += subSystem->getName() + " ";
+            VarnelExchangeXml::updateResultsToSubSystem(subSystem);
+        }
+        std::string names;
+    } own;
+    VarnelSubSystem *child = manager.giveSubSystem("A", manager.getCurrentSubSystem());
+    manager.giveSubSystem("B", child);
+    manager.giveSubSystem("C", manager.getCurrentSubSystem());
+    own.updateResults(&manager);
+    EXPECT_EQ(own.names, "System A B C ");
 }
 
 TEST_F(ResultElements, ResultsAreNeverReadBack) {

@@ -174,6 +174,22 @@ TEST_F(StageElements, ObjectThatOnlyTheCallerHasIsSkipped) {
               "<OBJECTSTATES><OBJECTSTATE PLATE=\"12\" ACTIVE=\"1\"></OBJECTSTATE></OBJECTSTATES>");
 }
 
+// Assigning through the base leaves the beam of the state beside the object of the other one.
+TEST_F(StageElements, StateThatWasAssignedThroughItsBaseIsWrittenForItsOwnObject) {
+    readStates("");
+    VarnelBeam *other = model().giveBeam(true);
+    other->setNumber(20);
+    VarnelObjectState *state = stage(1)->giveState(model().getBeams().front());
+    VarnelBeamState source(other);
+    source.setActive(false);
+    *state = static_cast<const VarnelObjectState &>(source);
+    ASSERT_EQ(state->getStateObject(), other);
+    EXPECT_EQ(writtenStates(),
+              "<OBJECTSTATES><OBJECTSTATE BEAM=\"11\" ACTIVE=\"0\"></OBJECTSTATE></OBJECTSTATES>");
+    model().remove(model().getBeams().front(), true);
+    EXPECT_EQ(writtenStates(), "<OBJECTSTATES></OBJECTSTATES>");
+}
+
 TEST_F(StageElements, StatesOfObjectsAnywhereInTheTreeAreWritten) {
     addStage(1, "a");
     VarnelSubSystem *child = document.manager.giveSubSystem("A", root());
@@ -422,11 +438,26 @@ TEST_F(StageElements, ObjectsAreLookedForInTheTopAndThenInItsChildrenInOrder) {
 TEST_F(StageElements, ObjectsOfGrandchildrenAreNotFound) {
     const std::string nested = "<SUBSYSTEMS><SUBSYSTEM NAME=\"A\"><SUBSYSTEMS><SUBSYSTEM NAME=\"B\">" +
                                objects + "</SUBSYSTEM></SUBSYSTEMS></SUBSYSTEM></SUBSYSTEMS>";
-    EXPECT_THROW(
-        document.readSubSystem(nested + stagesElement(stageElement("NUMBER=\"1\"", "<S BEAM=\"11\"/>"))),
-        Tools::Error);
+    try {
+        document.readSubSystem(nested + stagesElement(stageElement("NUMBER=\"1\"", "<S BEAM=\"11\"/>")));
+        FAIL() << "no error";
+    } catch (const Tools::Error &error) {
+        EXPECT_STREQ(error.what(), "beam not found");
+    }
     document.readSubSystem(nested + stagesElement(stageElement("NUMBER=\"2\"", "<S PLATE=\"12\"/>")));
     EXPECT_TRUE(states(2).empty());
+}
+
+TEST_F(StageElements, ChildWithoutAModelIsSkippedInTheSearch) {
+    class Factory : public VarnelFactory {
+        Varnel *giveDatabase() const override { return nullptr; }
+    } factory;
+    root()->addChild(new VarnelSubSystem("", &factory, root()));
+    VarnelBeam *beam = document.manager.giveSubSystem("A", root())->getDatabase()->giveBeam(true);
+    beam->setNumber(11);
+    document.readSubSystem(stagesElement(stageElement("NUMBER=\"1\"", "<S BEAM=\"11\"/>")));
+    ASSERT_EQ(states().size(), 1u);
+    EXPECT_EQ(states().front()->getStateObject(), beam);
 }
 
 TEST_F(StageElements, StagesSurviveARoundTrip) {
@@ -524,6 +555,28 @@ TEST_F(StageElements, StageThatTheHostDoesNotMakeIsPassedOver) {
     exchange.getTree()->buildOfStream(stream);
     exchange.get(&document.manager);
     EXPECT_TRUE(stages().empty());
+}
+
+TEST_F(StageElements, NumberAndNameOfTheDocumentAreGivenToTheStageThatTheHostMakes) {
+    class Numbering : public VarnelExchangeXml {
+        VarnelConstructionStage *createOneConstructionStage(KzXmlData *, VarnelSubSystem *) override {
+            auto *made = new VarnelConstructionStage;
+            made->setNumber(50);
+            made->setName("own");
+            getManager()->getCurrentSubSystem()->add(made);
+            return made;
+        }
+    } exchange;
+    std::istringstream stream("<VARNEL><SUBSYSTEM>" +
+                              stagesElement("<A NUMBER=\"7\" NAME=\"a\"/><A NUMBER=\"0\"/>") +
+                              "</SUBSYSTEM></VARNEL>");
+    exchange.getTree()->buildOfStream(stream);
+    exchange.get(&document.manager);
+    ASSERT_EQ(stages().size(), 2u);
+    EXPECT_EQ(stages().front()->getNumber(), 7);
+    EXPECT_EQ(stages().front()->getName(), "a");
+    EXPECT_EQ(stages().back()->getNumber(), 50);  // only a number above 0 counts
+    EXPECT_EQ(stages().back()->getName(), "");
 }
 
 TEST_F(StageElements, StageForASubSystemIsTheOneThatItKnows) {

@@ -124,7 +124,8 @@ void VarnelExchangeXml::updateBeamStresses(VarnelBeam *beam, SysBase::Loadcase *
 void VarnelExchangeXml::updatePointBoundaryResults(Varnel *model) {
     if (!model) return;
     const auto &loadcases = loadcasesOf(getManager());
-    VarnelDesigner *designer = getManager() ? getManager()->getDesigner() : nullptr;
+    // Asking makes the designer, which a project without load cases does not need.
+    VarnelDesigner *designer = loadcases.empty() ? nullptr : getManager()->getDesigner();
     open("PBOUNDS");
     // All cases are asked, primary or not; without a designer every support gets a record of zeros.
     std::vector<SupportResults> results;

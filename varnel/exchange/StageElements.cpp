@@ -46,37 +46,36 @@ class VarnelObjectStateVisitorUpdateXml : public VarnelObjectStateVisitor {
         : exchange_(exchange), living_(living) {}
 
     void visit(VarnelLineLoadState *state) override {
-        update(lineLoadKey, StateKind::LineLoad, state, [state] { return state->getLineLoad(); });
+        update(lineLoadKey, StateKind::LineLoad, state, state->getLineLoad());
     }
     void visit(VarnelPointLoadState *state) override {
-        update(pointLoadKey, StateKind::PointLoad, state, [state] { return state->getPointLoad(); });
+        update(pointLoadKey, StateKind::PointLoad, state, state->getPointLoad());
     }
     void visit(VarnelPointBoundaryState *state) override {
-        update(pointBoundaryKey, StateKind::PointBoundary, state,
-               [state] { return state->getPointBoundary(); });
+        update(pointBoundaryKey, StateKind::PointBoundary, state, state->getPointBoundary());
     }
     void visit(VarnelBeamState *state) override {
-        update(
-            beamKey, StateKind::Beam, state, [state] { return state->getBeam(); },
-            [this, state] { exchange_->updateOneBeamState(state); });
+        update(beamKey, StateKind::Beam, state, state->getBeam(),
+               [this, state] { exchange_->updateOneBeamState(state); });
     }
     void visit(VarnelPlateState *state) override {
-        update(
-            plateKey, StateKind::Plate, state, [state] { return state->getPlate(); },
-            [this, state] { exchange_->updateOnePlateState(state); });
+        update(plateKey, StateKind::Plate, state, state->getPlate(),
+               [this, state] { exchange_->updateOnePlateState(state); });
     }
 
   private:
+    // The object in its own class is asked: an assignment through the base of states may have put another one
+    // beside it.
     template <class Object, class Extra>
-    void update(const char *key, StateKind kind, VarnelObjectState *state, Object object, Extra extra) {
-        if (!living_.contains(kind, state->getStateObject())) return;
-        exchange_->openToAttribute("OBJECTSTATE", key, object()->getNumber());
+    void update(const char *key, StateKind kind, VarnelObjectState *state, Object *object, Extra extra) {
+        if (!living_.contains(kind, object)) return;
+        exchange_->openToAttribute("OBJECTSTATE", key, object->getNumber());
         exchange_->updateOneObjectState(state);
         extra();
         exchange_->close();
     }
     template <class Object>
-    void update(const char *key, StateKind kind, VarnelObjectState *state, Object object) {
+    void update(const char *key, StateKind kind, VarnelObjectState *state, Object *object) {
         update(key, kind, state, object, [] {});
     }
 
