@@ -59,6 +59,12 @@ class StageElements : public testing::Test {
     void readStates(const std::string &states) {
         document.readSubSystem(objects + stagesElement(stageElement("NUMBER=\"1\"", states)));
     }
+    /// Reads the content of the top subsystem through an exchange of a host.
+    void readThrough(VarnelExchangeXml &exchange, const std::string &content) {
+        std::istringstream stream("<VARNEL><SUBSYSTEM>" + content + "</SUBSYSTEM></VARNEL>");
+        exchange.getTree()->buildOfStream(stream);
+        exchange.get(&document.manager);
+    }
     std::vector<VarnelObjectState *> states(int number = 1) {
         const auto &list = stage(number)->getObjectStates();
         return {list.begin(), list.end()};
@@ -67,6 +73,14 @@ class StageElements : public testing::Test {
     std::string written() {
         document.exchange().updateSystem(&document.manager);
         return textOf(document.find({"SUBSYSTEM", "CONSTRUCTIONSTATES"}));
+    }
+    /// The same after another project has read the document.
+    std::string writtenAgain() {
+        document.exchange().updateSystem(&document.manager);
+        Document other;
+        other.read(document.text());
+        other.exchange().updateSystem(&other.manager);
+        return textOf(other.find({"SUBSYSTEM", "CONSTRUCTIONSTATES"}));
     }
     std::string writtenStates() {
         document.exchange().updateSystem(&document.manager);
@@ -465,11 +479,7 @@ TEST_F(StageElements, StagesSurviveARoundTrip) {
     readStates(
         "<OBJECTSTATE LINELOAD=\"15\"/><OBJECTSTATE BEAM=\"11\" ACTIVE=\"0\" MATERIAL=\"M\"/>"
         "<OBJECTSTATE POINTLOAD=\"14\" ACTIVE=\"0\"/><OBJECTSTATE PLATE=\"12\"/>");
-    const std::string before = written();
-    Document other;
-    other.read(document.text());
-    other.exchange().updateSystem(&other.manager);
-    EXPECT_EQ(textOf(other.find({"SUBSYSTEM", "CONSTRUCTIONSTATES"})), before);
+    EXPECT_EQ(writtenAgain(), written());
 }
 
 // The stock is no project's: a state's material goes along in the document.
@@ -530,12 +540,8 @@ class OwnStages : public VarnelExchangeXml {
 
 TEST_F(StageElements, HostAddsToStatesThroughTheVirtualOperations) {
     OwnStages exchange;
-    std::istringstream stream(
-        "<VARNEL><SUBSYSTEM>" + objects +
-        stagesElement(stageElement("NUMBER=\"1\"", "<S BEAM=\"11\"/><S PLATE=\"12\"/>")) +
-        "</SUBSYSTEM></VARNEL>");
-    exchange.getTree()->buildOfStream(stream);
-    exchange.get(&document.manager);
+    readThrough(exchange,
+                objects + stagesElement(stageElement("NUMBER=\"1\"", "<S BEAM=\"11\"/><S PLATE=\"12\"/>")));
     EXPECT_EQ(exchange.beams, 1);
     EXPECT_EQ(exchange.plates, 1);
     EXPECT_EQ(exchange.seenModel, &model());
@@ -549,11 +555,7 @@ TEST_F(StageElements, HostAddsToStatesThroughTheVirtualOperations) {
 TEST_F(StageElements, StageThatTheHostDoesNotMakeIsPassedOver) {
     OwnStages exchange;
     exchange.make = false;
-    std::istringstream stream("<VARNEL><SUBSYSTEM>" +
-                              stagesElement(stageElement("NUMBER=\"1\"", "<S BEAM=\"11\"/>")) +
-                              "</SUBSYSTEM></VARNEL>");
-    exchange.getTree()->buildOfStream(stream);
-    exchange.get(&document.manager);
+    readThrough(exchange, stagesElement(stageElement("NUMBER=\"1\"", "<S BEAM=\"11\"/>")));
     EXPECT_TRUE(stages().empty());
 }
 
@@ -567,11 +569,7 @@ TEST_F(StageElements, NumberAndNameOfTheDocumentAreGivenToTheStageThatTheHostMak
             return made;
         }
     } exchange;
-    std::istringstream stream("<VARNEL><SUBSYSTEM>" +
-                              stagesElement("<A NUMBER=\"7\" NAME=\"a\"/><A NUMBER=\"0\"/>") +
-                              "</SUBSYSTEM></VARNEL>");
-    exchange.getTree()->buildOfStream(stream);
-    exchange.get(&document.manager);
+    readThrough(exchange, stagesElement("<A NUMBER=\"7\" NAME=\"a\"/><A NUMBER=\"0\"/>"));
     ASSERT_EQ(stages().size(), 2u);
     EXPECT_EQ(stages().front()->getNumber(), 7);
     EXPECT_EQ(stages().front()->getName(), "a");
@@ -597,11 +595,7 @@ TEST_F(StageElements, ManyStatesAreWrittenAndReadQuickly) {
         VarnelPointLoad *load = model().givePointLoad();
         stage(1)->giveState(load)->setActive(i % 2 == 0);
     }
-    const std::string before = written();
-    Document other;
-    other.read(document.text());
-    other.exchange().updateSystem(&other.manager);
-    EXPECT_EQ(textOf(other.find({"SUBSYSTEM", "CONSTRUCTIONSTATES"})), before);
+    EXPECT_EQ(writtenAgain(), written());
 }
 
 }  // namespace
