@@ -76,7 +76,7 @@ class StageElements : public testing::Test {
     }
     /// The same after another project has read the document.
     std::string writtenAgain() {
-        document.exchange().updateSystem(&document.manager);
+        written();
         Document other;
         other.read(document.text());
         other.exchange().updateSystem(&other.manager);
@@ -192,11 +192,10 @@ TEST_F(StageElements, ObjectThatOnlyTheCallerHasIsSkipped) {
 TEST_F(StageElements, StateThatWasAssignedThroughItsBaseIsWrittenForItsOwnObject) {
     readStates("");
     VarnelBeam *other = model().giveBeam(true);
-    other->setNumber(20);
     VarnelObjectState *state = stage(1)->giveState(model().getBeams().front());
     VarnelBeamState source(other);
     source.setActive(false);
-    *state = static_cast<const VarnelObjectState &>(source);
+    *state = source;
     ASSERT_EQ(state->getStateObject(), other);
     EXPECT_EQ(writtenStates(),
               "<OBJECTSTATES><OBJECTSTATE BEAM=\"11\" ACTIVE=\"0\"></OBJECTSTATE></OBJECTSTATES>");
