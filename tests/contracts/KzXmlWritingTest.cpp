@@ -176,6 +176,17 @@ TEST(KzXmlWriting, ATreeAMillionDeepIsWrittenSearchedAndFreed) {
     EXPECT_TRUE(heap.getRoot()->getChildren().empty());
 }
 
+TEST(KzXmlWriting, NamesKeysAndTextsLongerThanAnyBufferAreWhole) {
+    const std::string name(300000, 'n'), key(200000, 'k'), value(500000, 'v');
+    KzXmlTree tree(name);
+    tree.getRoot()->setAttribute(key, value);
+    tree.getRoot()->setData(value);
+    std::ostringstream stream;
+    tree.putToStream(stream, false);
+    EXPECT_TRUE(stream.str() ==
+                head + "<" + name + " " + key + "=\"" + value + "\">" + value + "</" + name + ">\n");
+}
+
 TEST(KzXmlWriting, IndentationStopsGrowingWhereDocumentsCannotBeReadAnyMore) {
     struct Counting : std::streambuf {
         std::size_t count = 0;

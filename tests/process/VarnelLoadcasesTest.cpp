@@ -297,6 +297,15 @@ TEST_F(VarnelLoadcases, RemovingACaseLetsItsLoadsGoUndeleted) {
     delete loadcase;
 }
 
+TEST_F(VarnelLoadcases, RemovingNoCaseLeavesTheLoadsOfNoCaseInTheModel) {
+    VarnelPointLoad *load = model->givePointLoad();
+    model->setLoadChanged(false);
+    manager.remove(static_cast<SysBase::Loadcase *>(nullptr), true);
+    manager.remove(static_cast<SysBase::Loadcase *>(nullptr), false);
+    EXPECT_EQ(model->getPointLoads(), (std::list<VarnelPointLoad *>{load}));
+    EXPECT_FALSE(model->loadChanged());
+}
+
 TEST_F(VarnelLoadcases, DestroyingACaseLetsItsLoadsGoUndeletedAndWithoutTheCase) {
     class Mortal : public SysBase::Loadcase {
       public:

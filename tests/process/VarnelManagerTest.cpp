@@ -509,6 +509,24 @@ TEST(VarnelManager, EverythingDiesInOrder) {
                      "~generated section", "~section", "~mesh", "~line", "~load case"}));
 }
 
+TEST(VarnelManager, AModelThatDiesWithItFindsNoCurrentModel) {
+    static const Varnel *found;
+    class Asking : public VarnelDB {
+      public:
+        using VarnelDB::VarnelDB;
+        ~Asking() override { found = getManager()->getDatabase(); }
+    };
+    class AskingFactory : public VarnelFactory {
+        Varnel *giveDatabase() const override { return new Asking(getManager()); }
+    } factory;
+    {
+        VarnelManager manager(&factory);
+        found = manager.getDatabase();
+        EXPECT_NE(found, nullptr);
+    }
+    EXPECT_EQ(found, nullptr);
+}
+
 TEST(VarnelManager, ResetDeletesConverterCalculatorAndDesigner) {
     MortalFactory factory;
     VarnelManager manager(&factory);

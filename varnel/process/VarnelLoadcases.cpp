@@ -63,17 +63,17 @@ void VarnelManager::setCurrentLoadcase(int number) {
 }
 
 void VarnelManager::remove(SysBase::Loadcase *loadcase, bool destroy) {
-    const bool dies = destroy && loadcase;
+    if (!loadcase) return;
     std::vector<VarnelLoad *> leaving;  // no longer found in the model when the case dies
     if (Varnel *model = getDatabase()) {
         const auto note = [&leaving, loadcase](VarnelLoad &load) {
             if (load.getLoadcase() == loadcase) leaving.push_back(&load);
         };
-        if (dies) eachListedLoad(*model, note);
+        if (destroy) eachListedLoad(*model, note);
         model->removeLoadsToLoadcase(destroy, loadcase);
     }
     for (VarnelLoad *load : leaving) load->forgetLoadcase(loadcase);
-    if (dies) forgetLoadcases({loadcase});
+    if (destroy) forgetLoadcases({loadcase});
     removeLoadcase(loadcase, destroy);
 }
 

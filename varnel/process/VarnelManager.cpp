@@ -93,6 +93,7 @@ VarnelManager::~VarnelManager() {
     delete converter_;
     delete exchange_;
     delete dataChecker_;
+    currentSubSystem_ = nullptr;  // models that die have nobody to ask
     varnel::deleteAll(subSystems_);
     materialManager_->removeUser(implementation_.get());
     materialManager_.reset();

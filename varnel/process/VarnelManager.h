@@ -58,7 +58,7 @@ class VARNEL_EXPORT VarnelManager : public SysBase::Manager {
     void setCurrentLoadcase(int number) override;
     /// Takes the loads of the case out of the current model, where they pass undeleted to the caller, and
     /// then the case out of the list; deletes the case if asked. A deleted case is first forgotten by all
-    /// loads and default records.
+    /// loads and default records. Null is ignored.
     void remove(SysBase::Loadcase *loadcase, bool destroy) override;
 
     // Switches.
