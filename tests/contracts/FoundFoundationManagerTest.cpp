@@ -41,6 +41,28 @@ Foundation *walkToLine(const FoundationManager &manager, const KzVector3D &line)
     return nullptr;
 }
 
+/// Looks for all foundations, and takes another line, when it dies.
+class AskingFoundation : public Foundation {
+  public:
+    AskingFoundation(int number, FoundationManager &manager, int &found)
+        : Foundation(number, "F", KzVector3D(number, 0.0, 0.0)), manager_(manager), found_(found) {}
+    AskingFoundation(const AskingFoundation &) = delete;
+    AskingFoundation &operator=(const AskingFoundation &) = delete;
+    ~AskingFoundation() override {
+        setDispLine(KzVector3D(7.0, 7.0, 7.0));
+        if (manager_.findFoundation("F")) ++found_;
+        for (const int number : {1, 2}) {
+            if (manager_.findFoundation(number)) ++found_;
+            if (manager_.giveFoundation(Foundation(KzVector3D(number, 0.0, 0.0)), false)) ++found_;
+        }
+        if (manager_.giveFoundation(*this, false)) ++found_;
+    }
+
+  private:
+    FoundationManager &manager_;
+    int &found_;
+};
+
 constexpr double noNumber = std::numeric_limits<double>::quiet_NaN();
 
 }  // namespace
@@ -167,6 +189,26 @@ TEST(FoundationManager, RemovesNothingThatAUserNeeds) {
         manager.giveFoundation(Foundation(KzVector3D()), true);
     }
     EXPECT_EQ(user.asked, 0);  // nobody is asked while the manager dies
+}
+
+TEST(FoundationManager, ADyingFoundationIsFoundNoMore) {
+    int found = 0;
+    FoundationManager manager;
+    auto *foundation = new AskingFoundation(1, manager, found);
+    manager.add(foundation);
+    EXPECT_TRUE(manager.remove(foundation));
+    EXPECT_EQ(found, 0);
+    EXPECT_EQ(manager.giveFoundation(Foundation(KzVector3D(7.0, 7.0, 7.0)), false), nullptr);
+}
+
+TEST(FoundationManager, WhenItDiesItsFoundationsFindNoneOfEachOther) {
+    int found = 0;
+    {
+        FoundationManager manager;
+        for (const int number : {1, 2}) manager.add(new AskingFoundation(number, manager, found));
+        ASSERT_NE(manager.findFoundation(1), nullptr);
+    }
+    EXPECT_EQ(found, 0);
 }
 
 TEST(FoundationManager, LookUpsAgreeWithThePlainWalk) {

@@ -82,6 +82,28 @@ TEST(KzReinfLineList, RemovesNothingThatAUserNeeds) {
     EXPECT_EQ(user.asked, 1);  // nobody is asked while the list dies
 }
 
+TEST(KzReinfLineList, WhenItDiesItsLinesFindNoneOfEachOther) {
+    struct Asking : KzReinfLine {
+        Asking(int number, const KzReinfLineList &lines, int &hits)
+            : KzReinfLine(number, ""), list(lines), found(hits) {}
+        Asking(const Asking &) = delete;
+        Asking &operator=(const Asking &) = delete;
+        ~Asking() override {
+            for (const int number : {1, 2})
+                if (list.findBeamReinf(number)) ++found;
+        }
+        const KzReinfLineList &list;
+        int &found;
+    };
+    int found = 0;
+    {
+        KzReinfLineList list(nullptr);
+        for (const int number : {1, 2}) list.add(new Asking(number, list, found));
+        ASSERT_NE(list.findBeamReinf(1), nullptr);
+    }
+    EXPECT_EQ(found, 0);
+}
+
 TEST(KzReinfLineList, IsAUserOfTheSteelOfItsLines) {
     KzMaterialManager materials("List");
     auto *steel = new KzMaterialReinforcement("B", 1.0, 1.0);

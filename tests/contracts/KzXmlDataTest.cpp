@@ -37,6 +37,19 @@ TEST(KzXmlData, OwnsItsChildrenInTheOrderInWhichTheyWereAdded) {
     EXPECT_EQ(root.findChild("C"), nullptr);
 }
 
+TEST(KzXmlData, TakesNoChildThatIsOwnedAlready) {
+    KzXmlData root("R", nullptr);
+    KzXmlData other("O", nullptr);
+    auto *child = new KzXmlData("A", &root);
+    root.addChild(child);
+    root.addChild(child);
+    other.addChild(child);
+    other.addChild(root.makeChild("B"));
+    EXPECT_EQ(root.getChildren().size(), 2U);
+    EXPECT_TRUE(other.getChildren().empty());
+    EXPECT_EQ(child->getParent(), &root);
+}
+
 TEST(KzXmlData, AnElementThatWasNotAddedOutlivesTheDocument) {
     auto tree = std::make_unique<KzXmlTree>("R");
     const auto stray = std::make_unique<KzXmlData>("STRAY", tree->getRoot());

@@ -173,6 +173,15 @@ TEST(KzXmlReading, EncodingsAreReadAsUtf8) {
     }
 }
 
+TEST(KzXmlReading, OnlyADeclarationDeclaresAnEncoding) {
+    const std::string umlaut = "\xC3\xA4";
+    EXPECT_EQ(dataOf("<?xml-stylesheet encoding='iso-8859-1'?><R>" + umlaut + "</R>"), umlaut);
+    EXPECT_EQ(dataOf("<?xml version='1.0'?><?a encoding='iso-8859-1'?><R>" + umlaut + "</R>"), umlaut);
+    EXPECT_EQ(dataOf("<?xml\n\tversion='1.0'\r\nencoding\t=\n'iso-8859-1' ?><R>\xE4</R>"), umlaut);
+    for (const char *cut : {"<?xml", "<?xml ", "<?xml encoding=", "<?xml encoding='iso-8859-1"})
+        EXPECT_TRUE(hasPlace(errorOf(cut))) << cut;
+}
+
 TEST(KzXmlReading, BytesThatAreNotUtf8AreTakenAsWindows1252) {
     EXPECT_EQ(dataOf("<R>\xE4</R>"), "\xC3\xA4");
     EXPECT_EQ(dataOf("<R>\xC3\xA4\xE4\x80</R>"), "\xC3\xA4\xC3\xA4\xE2\x82\xAC");

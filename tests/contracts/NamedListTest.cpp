@@ -14,6 +14,23 @@ struct Item {
 
 using List = varnel::NamedList<Item>;
 
+/// Looks for its neighbours when it dies.
+struct Asking {
+    Asking(const std::string &name, const varnel::NamedList<Asking> &list, int &found)
+        : name_(name), list_(list), found_(found) {}
+    Asking(const Asking &) = delete;
+    Asking &operator=(const Asking &) = delete;
+    ~Asking() {
+        for (const char *name : {"a", "b", "c"})
+            if (list_.find(name)) ++found_;
+        name_.set("d");
+    }
+
+    varnel::ListedName<Asking> name_;
+    const varnel::NamedList<Asking> &list_;
+    int &found_;
+};
+
 Item *walk(const List &list, const std::string &name) {
     for (Item *item : list.items())
         if (item->name_.get() == name) return item;
@@ -88,6 +105,16 @@ TEST(NamedList, DeletesWhatATestPicks) {
     EXPECT_EQ(list.items()[2]->name_.get(), "last");
     EXPECT_EQ(list.find("drop"), nullptr);
     EXPECT_EQ(list.find("keep"), list.items()[0]);
+}
+
+TEST(NamedList, WhenItDiesItsObjectsFindNoneOfEachOther) {
+    int found = 0;
+    {
+        varnel::NamedList<Asking> list;
+        for (const char *name : {"a", "b", "c"}) list.add(new Asking(name, list, found));
+        ASSERT_NE(list.find("a"), nullptr);
+    }
+    EXPECT_EQ(found, 0);
 }
 
 TEST(NamedList, LookUpsAgreeWithThePlainWalk) {

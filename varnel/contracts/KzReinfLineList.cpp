@@ -47,6 +47,7 @@ KzReinfLineList::KzReinfLineList(SDBSectionManager *sections)
 
 KzReinfLineList::~KzReinfLineList() {
     if (SDBSectionManager *alive = sections()) alive->removeUser(guard_.get());
+    numbers_.clear();
     varnel::deleteAll(lines_);
 }
 

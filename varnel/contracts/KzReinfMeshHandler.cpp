@@ -10,7 +10,7 @@ struct StockMesh {
     double asY;
 };
 
-// Q: alike in both directions; R: one fifth across, but at least 1.13 cm2/m.
+// Q: (nearly) alike in both directions; R: bearing along x, with less steel across.
 constexpr StockMesh stock[] = {
     {"Q188A", 1.88, 1.88}, {"Q257A", 2.57, 2.57}, {"Q335A", 3.35, 3.35}, {"Q424A", 4.24, 4.24},
     {"Q524A", 5.24, 5.24}, {"Q636A", 6.36, 6.28}, {"R188A", 1.88, 1.13}, {"R257A", 2.57, 1.13},

@@ -94,7 +94,7 @@ varnel::XmlParts &KzXmlData::giveParts() {
 }
 
 void KzXmlData::addChild(KzXmlData *child) {
-    if (!child) return;
+    if (!child || child->order_) return;
     auto &parts = giveParts();
     auto &children = parts.children;
     std::uint32_t order = children.empty() ? 0 : children.back()->order_;

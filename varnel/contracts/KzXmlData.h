@@ -30,7 +30,7 @@ class VARNEL_EXPORT KzXmlData {
     KzXmlData &operator=(const KzXmlData &) = delete;
     virtual ~KzXmlData();
 
-    /// Appends a child, which is owned from then on. Null is ignored.
+    /// Appends a child, which is owned from then on. Null and one that an element owns already are ignored.
     void addChild(KzXmlData *child);
     /// Makes an element and appends it: as `addChild(new KzXmlData(name, this))`, from the document's own
     /// memory where there is one.

@@ -52,7 +52,10 @@ class NamedList {
     NamedList() = default;
     NamedList(const NamedList &) = delete;
     NamedList &operator=(const NamedList &) = delete;
-    ~NamedList() { deleteAll(items_); }
+    ~NamedList() {
+        names_.clear();  // a dying object finds none of its dead neighbours
+        deleteAll(items_);
+    }
 
     const std::vector<T *> &items() const { return items_; }
     bool changed() const { return changed_; }

@@ -5,6 +5,8 @@
 #include <istream>
 #include <string_view>
 
+#include "varnel/contracts/XmlCharacters.h"
+
 namespace varnel {
 
 namespace {
@@ -18,7 +20,7 @@ bool startsWith(std::string_view text, std::string_view start) {
 
 /// The value after `encoding=` in an XML declaration, empty without one.
 std::string declaredEncoding(std::string_view head) {
-    if (!startsWith(head, "<?xml")) return {};
+    if (!startsWith(head, "<?xml") || head.size() == 5 || !xml::is(head[5], xml::blank)) return {};
     head = head.substr(0, head.find("?>"));
     const std::size_t word = head.find("encoding");
     if (word == std::string_view::npos) return {};

@@ -37,7 +37,11 @@ void writeFoundation(const Foundation &foundation, KzXmlData *element) {
 
 FoundationManager::FoundationManager() = default;
 
-FoundationManager::~FoundationManager() = default;
+FoundationManager::~FoundationManager() {
+    numbers_.clear();
+    lines_.clear();
+    for (Foundation *foundation : foundations_.items()) foundation->manager_ = nullptr;
+}
 
 Foundation *FoundationManager::findFoundation(const std::string &name) const {
     return foundations_.find(name);
@@ -69,6 +73,7 @@ bool FoundationManager::remove(Foundation *foundation) {
     dropLine(*foundation);
     numbers_.erase({foundation->number_, foundation->name_.sequence()});
     foundations_.take(foundation);
+    foundation->manager_ = nullptr;
     delete foundation;
     return true;
 }

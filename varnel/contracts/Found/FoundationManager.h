@@ -59,9 +59,9 @@ class VARNEL_EXPORT FoundationManager {
     void fileLine(Foundation *foundation);
     void dropLine(const Foundation &foundation);
 
-    varnel::NamedList<Foundation> foundations_;
     std::map<std::pair<int, std::uint64_t>, Foundation *> numbers_;  // by number, then in list order
     varnel::FirstByKey<KzVector3D, Foundation, varnel::CoordinateHash> lines_;
+    varnel::NamedList<Foundation> foundations_;  // dies before the tables, which dying ones may still ask
     varnel::Users<FoundationUser> users_;
 };
 
