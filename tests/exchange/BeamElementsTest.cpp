@@ -6,7 +6,6 @@
 #include "tests/support/Document.h"
 #include "tests/support/VirtualSlot.h"
 #include "varnel/contracts/Found/Foundation.h"
-#include "varnel/contracts/Found/FoundationManager.h"
 #include "varnel/contracts/KzConcrete.h"
 #include "varnel/contracts/KzMaterialHandler.h"
 #include "varnel/contracts/KzMaterialManager.h"
@@ -21,7 +20,6 @@
 #include "varnel/geometry/VarnelCircle.h"
 #include "varnel/members/VarnelBeam.h"
 #include "varnel/members/VarnelDesignData.h"
-#include "varnel/members/VarnelFoundedPart.h"
 #include "varnel/members/VarnelGapControl.h"
 #include "varnel/members/VarnelJoint.h"
 
@@ -31,10 +29,6 @@ namespace {
 
 std::string edge(const std::string &line, int position) {
     return "<EDGE POS=\"" + std::to_string(position) + "\">" + line + "</EDGE>";
-}
-
-std::string span(const std::string &start, const std::string &end) {
-    return "<FSPAN><LOCA " + start + "</LOCA><LOCE " + end + "</LOCE></FSPAN>";
 }
 
 class BeamElements : public testing::Test {
@@ -171,17 +165,6 @@ TEST_F(BeamElements, NothingStaleRemainsOfWhatABeamHasNoLonger) {
         EXPECT_EQ(text.find(gone), std::string::npos) << gone;
 }
 
-TEST_F(BeamElements, EverySpanHasAnElementWithoutAttributes) {
-    VarnelBeam *beam = addBeam();
-    beam->addFoundation(KzVector3D(0, 0, 1), 0.0, KzVector3D(0, 0, 2), 0.5, &document.manager);
-    beam->addFoundation(KzVector3D(0, 0, 2), 0.5, KzVector3D(0, 0, 1), 1.0, &document.manager);
-    EXPECT_EQ(
-        textOf(writtenBeam()->findChild("FOUNDB")),
-        "<FOUNDB><FSPAN><LOCA POS=\"0\" FOUND=\"1\"></LOCA><LOCE POS=\"0.5\" FOUND=\"2\"></LOCE></FSPAN>"
-        "<FSPAN><LOCA POS=\"0.5\" FOUND=\"2\"></LOCA><LOCE POS=\"1\" FOUND=\"1\"></LOCE></FSPAN>"
-        "</FOUNDB>");
-}
-
 TEST_F(BeamElements, MissingItemsLeaveTheDefaultsOfANewBeam) {
     const VarnelBeam *beam = readBeam("");
     const VarnelBeam fresh;
@@ -310,6 +293,47 @@ TEST_F(BeamElements, OutlinesThatAreNoAxisFallBackOnTheOldEnds) {
     EXPECT_NO_THROW(document.write());
 }
 
+// In the old form the ends and the number belong together; an axis comes without it.
+TEST_F(BeamElements, NumberIsReadIntoABeamWithTheOldEndsOnly) {
+    const struct {
+        const char *content;
+        int number;
+        int expected;
+    } rows[] = {{"", 9, 9},
+                {"<RECTAN><POS/></RECTAN>", 9, 9},
+                {"", 0, 5},
+                {"", -3, 5},
+                {"<AREA><EDGE><LINE TYPE=\"STRAIGHT\"><END><X>4</X></END></LINE></EDGE></AREA>", 9, 5}};
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.content + std::to_string(row.number));
+        document.readSubSystem("<E NUMBER=\"" + std::to_string(row.number) + "\">" + row.content + "</E>");
+        VarnelBeam beam;
+        beam.setNumber(5);
+        beams().readOneBeam(document.find({"SUBSYSTEM", "E"}), &beam, &document.model());
+        EXPECT_EQ(beam.getNumber(), row.expected);
+    }
+}
+
+TEST_F(BeamElements, NamesAreSetAndAskedThroughTheVirtualOperations) {
+    class Beam : public VarnelBeam {
+        void setName(const std::string &name) override { VarnelBeam::setName("host " + name); }
+    } beam;
+    class Material : public KzMaterial {
+      public:
+        Material() : KzMaterial("own", 1.0, 2.0) {}
+        const std::string &getName() const override { return shown; }
+        std::string shown = "shown";
+    } material;
+    KzXmlData element("E", nullptr);
+    element.setAttribute("NAME", "B");
+    beams().readOneBeam(&element, &beam, &document.model());
+    EXPECT_EQ(beam.getName(), "host B");
+    beam.setMaterial(&material, 0);
+    document.exchange().open("BEAM");
+    beams().updateOneBeam(&beam);
+    EXPECT_EQ(textOf(document.find({"BEAM", "MATERIAL"})), "<MATERIAL>shown</MATERIAL>");
+}
+
 TEST_F(BeamElements, MissingEndOfTheOldFormIsTheOrigin) {
     const VarnelBeam *beam = readBeam("", vectorElement("START", 3, 0, 4));
     EXPECT_TRUE(beam->getEndVec() == KzVector3D());
@@ -401,80 +425,6 @@ TEST_F(BeamElements, DesignLineIsFoundByItsNumber) {
     EXPECT_EQ(readBeam("NUMBER=\"1\" DESIGN=\"8\"")->getReinfLine(), line);
     EXPECT_EQ(readBeam("NUMBER=\"1\"")->getReinfLine(), line);
     EXPECT_EQ(readBeam("NUMBER=\"1\" DESIGN=\"9\"")->getReinfLine(), nullptr);
-}
-
-TEST_F(BeamElements, SpansAreRead) {
-    const VarnelBeam *beam = readBeam(
-        "", "<FOUNDB>" + span("POS=\"0.25\" FOUND=\"9\"><Z>100</Z>", "POS=\"1\"><X>5</X><Z>200</Z>") +
-                "<ANY><LOCE POS=\"0.5\"/></ANY></FOUNDB>");
-    ASSERT_EQ(beam->getFoundations().size(), 2u);
-    const VarnelFoundedPart *part = beam->getFoundations().front();
-    EXPECT_DOUBLE_EQ(part->getPosA(), 0.25);
-    EXPECT_DOUBLE_EQ(part->getPosE(), 1.0);
-    KzVector3D stiffness;
-    part->getFStart()->getDispLine(stiffness);
-    EXPECT_TRUE(stiffness == KzVector3D(0, 0, 100));
-    part->getFEnd()->getDispLine(stiffness);
-    EXPECT_TRUE(stiffness == KzVector3D(5, 0, 200));
-    EXPECT_DOUBLE_EQ(beam->getFoundations().back()->getPosA(), 0.0);
-    EXPECT_DOUBLE_EQ(beam->getFoundations().back()->getPosE(), 0.5);
-}
-
-TEST_F(BeamElements, SpanWithoutAnEndIsNone) {
-    EXPECT_TRUE(readBeam("", "<FOUNDB><FSPAN/><FSPAN><LOCA POS=\"0.5\"/></FSPAN></FOUNDB>")
-                    ->getFoundations()
-                    .empty());
-}
-
-TEST_F(BeamElements, SpanEndWithoutAStationLosesItsVector) {
-    const VarnelBeam *beam = readBeam("", "<FOUNDB>" + span("><Z>100</Z>", "><Z>200</Z>") + "</FOUNDB>");
-    ASSERT_EQ(beam->getFoundations().size(), 1u);
-    const VarnelFoundedPart *part = beam->getFoundations().front();
-    EXPECT_DOUBLE_EQ(part->getPosA(), 0.0);
-    EXPECT_DOUBLE_EQ(part->getPosE(), 0.0);
-    KzVector3D stiffness(1, 1, 1);
-    part->getFEnd()->getDispLine(stiffness);
-    EXPECT_TRUE(stiffness == KzVector3D());
-}
-
-TEST_F(BeamElements, SpansOutsideOfTheBeamAreDropped) {
-    for (const char *station : {"nan", "1.1", "-0.1", "inf", "-inf", "1.0000000000000002"}) {
-        SCOPED_TRACE(station);
-        const std::string bad = "POS=\"" + std::string(station) + "\">";
-        EXPECT_TRUE(
-            readBeam("", "<FOUNDB>" + span(bad, "POS=\"0.5\">") + span("POS=\"0.5\">", bad) + "</FOUNDB>")
-                ->getFoundations()
-                .empty());
-    }
-    EXPECT_TRUE(document.manager.getFoundationManager()->getFoundations().empty());
-    EXPECT_EQ(
-        readBeam("", "<FOUNDB>" + span("POS=\"0\">", "POS=\"1\">") + "</FOUNDB>")->getFoundations().size(),
-        1u);
-}
-
-TEST_F(BeamElements, SpanThatIsReadTwiceIsAddedUp) {
-    const std::string spans = "<FOUNDB>" + span("POS=\"0\"><Z>1</Z>", "POS=\"1\"><Z>2</Z>") + "</FOUNDB>";
-    readBeam("NUMBER=\"1\"", spans);
-    const VarnelBeam *beam = readBeam("NUMBER=\"1\"", spans);
-    ASSERT_EQ(beam->getFoundations().size(), 1u);
-    KzVector3D stiffness;
-    beam->getFoundations().front()->getFEnd()->getDispLine(stiffness);
-    EXPECT_TRUE(stiffness == KzVector3D(0, 0, 4));
-}
-
-// Meant: numbers of foundations are written and not read, so values of spans do not survive, and the
-// foundation without stiffness enters the project.
-TEST_F(BeamElements, SpansComeBackWithoutTheirValues) {
-    addBeam()->addFoundation(KzVector3D(0, 0, 10), 0.25, KzVector3D(0, 0, 20), 0.75, &document.manager);
-    Document again;
-    again.read(document.write());
-    const VarnelBeam *beam = again.model().getBeams().front();
-    ASSERT_EQ(beam->getFoundations().size(), 1u);
-    EXPECT_DOUBLE_EQ(beam->getFoundations().front()->getPosA(), 0.25);
-    KzVector3D stiffness(1, 1, 1);
-    beam->getFoundations().front()->getFStart()->getDispLine(stiffness);
-    EXPECT_TRUE(stiffness == KzVector3D());
-    EXPECT_EQ(again.manager.getFoundationManager()->getFoundations().size(), 3u);
 }
 
 TEST_F(BeamElements, WhatOnlyTheModelKnowsDoesNotComeBack) {

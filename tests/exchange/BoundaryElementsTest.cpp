@@ -5,7 +5,6 @@
 
 #include "tests/support/Document.h"
 #include "varnel/contracts/KzMath.h"
-#include "varnel/geometry/VarnelCircle.h"
 #include "varnel/geometry/VarnelStraight.h"
 #include "varnel/members/VarnelLineBoundary.h"
 #include "varnel/members/VarnelPointBoundaryCircle.h"
@@ -39,14 +38,11 @@ class BoundaryElements : public testing::Test {
         boundary->setNumber(number);
         return boundary;
     }
-    VarnelLineBoundary *addLine(VarnelLine *line, int number = 1) {
-        auto *boundary = new VarnelLineBoundary(line);
-        boundary->setNumber(number);
+    VarnelLineBoundary *addLine() {
+        auto *boundary = new VarnelLineBoundary(new VarnelStraight(KzVector3D(0, 0, 0), KzVector3D(4, 0, 0)));
+        boundary->setNumber(1);
         document.model().add(boundary);
         return boundary;
-    }
-    VarnelLineBoundary *addLine() {
-        return addLine(new VarnelStraight(KzVector3D(0, 0, 0), KzVector3D(4, 0, 0)));
     }
     /// The list as it is written, with the numbers that the objects have.
     std::string written(const char *list) {
@@ -56,10 +52,6 @@ class BoundaryElements : public testing::Test {
     const KzXmlData *writtenPoint() {
         document.exchange().updateSystem(&document.manager);
         return document.find({"SUBSYSTEM", "PBOUNDS", "PBOUND"});
-    }
-    const KzXmlData *writtenLine() {
-        document.exchange().updateSystem(&document.manager);
-        return document.find({"SUBSYSTEM", "LBOUNDS", "LBOUND"});
     }
 
     Document document;
@@ -365,151 +357,6 @@ TEST_F(BoundaryElements, OriginOfAFrameActivityAndTypeIndexDoNotComeBack) {
     EXPECT_EQ(read->getTypInd(), 0);
 }
 
-TEST_F(BoundaryElements, LineBoundaryIsWrittenInFull) {
-    VarnelLineBoundary *boundary = addLine();
-    boundary->setName("W");
-    boundary->getData().setDof(4);
-    boundary->getData().setWidth(0.24);
-    boundary->setLocal(true);
-    boundary->setLocsys(0, 1, 0);
-    boundary->setStiffness({1, 2, 3, 4, 5, 6});
-    boundary->getData().setTransferOwnWeight(true);
-    EXPECT_EQ(written("LBOUNDS"),
-              "<LBOUNDS><LBOUND NUMBER=\"1\" NAME=\"W\" DOF=\"4\" WIDTH=\"0.24\" LOCAL=\"1\">" +
-                  vectorElement("LOCSYS", 0, 1, 0) + lineElement(0, 0, 4, 0) +
-                  vectorElement("STIFFD", 1, 2, 3) + vectorElement("STIFFR", 4, 5, 6) +
-                  "<OWNWEIGHT TRANSFER=\"1\" SPECIFICWEIGHT=\"25\" HEIGHT=\"3\"></OWNWEIGHT>"
-                  "</LBOUND></LBOUNDS>");
-}
-
-TEST_F(BoundaryElements, DefaultLineBoundaryHasItsDirectionAndOwnWeight) {
-    addLine();
-    EXPECT_EQ(textOf(writtenLine()), "<LBOUND NUMBER=\"1\" NAME=\"\" DOF=\"0\" WIDTH=\"0\" LOCAL=\"0\">" +
-                                         vectorElement("LOCSYS", 0, 0, 1) + lineElement(0, 0, 4, 0) +
-                                         ownWeight + "</LBOUND>");
-}
-
-TEST_F(BoundaryElements, MissingItemsOfALineBoundaryLeaveItsDefaults) {
-    const VarnelLineBoundary *boundary = readLine("", lineElement(0, 0, 4, 0));
-    EXPECT_EQ(boundary->getNumber(), VarnelLineBoundaryData().getNumber());
-    EXPECT_EQ(boundary->getName(), "");
-    EXPECT_EQ(boundary->getData().getDof(), 0);
-    EXPECT_DOUBLE_EQ(boundary->getData().getWidth(), 0.0);
-    EXPECT_FALSE(boundary->getLocal());
-    EXPECT_TRUE(boundary->getLocsys() == KzVector3D(0, 0, 1));
-    EXPECT_EQ(boundary->getStiffnessData(), nullptr);
-    EXPECT_FALSE(boundary->getData().doTransferOwnWeight());
-    EXPECT_DOUBLE_EQ(boundary->getData().getHeight(), 3.0);
-}
-
-TEST_F(BoundaryElements, AllItemsOfALineBoundaryAreRead) {
-    const VarnelLineBoundary *boundary =
-        readLine("NUMBER=\"6\" NAME=\"wall\" DOF=\"5\" WIDTH=\"0.3\" LOCAL=\"-1\"",
-                 lineElement(1, 2, 3, 4) + vectorElement("LOCSYS", 0, 3, 4) +
-                     vectorElement("STIFFD", 1, 2, 3) + vectorElement("STIFFR", 0, 0, 0.0001) +
-                     "<OWNWEIGHT TRANSFER=\"1\" SPECIFICWEIGHT=\"18\" HEIGHT=\"2.5\"/>");
-    EXPECT_EQ(boundary->getNumber(), 6);
-    EXPECT_EQ(boundary->getName(), "wall");
-    EXPECT_EQ(boundary->getData().getDof(), 5);
-    EXPECT_DOUBLE_EQ(boundary->getData().getWidth(), 0.3);
-    EXPECT_TRUE(boundary->getLocal());
-    EXPECT_TRUE(boundary->getLocsys() == KzVector3D(0, 0.6, 0.8));
-    EXPECT_EQ(boundary->getStiffness(), (std::vector<double>{1, 2, 3, 0, 0, 0.0001}));
-    EXPECT_TRUE(boundary->getData().doTransferOwnWeight());
-    EXPECT_DOUBLE_EQ(boundary->getData().getSpecificWeight(), 18.0);
-    EXPECT_DOUBLE_EQ(boundary->getData().getHeight(), 2.5);
-    EXPECT_TRUE(boundary->getGeo()->getStartVec() == KzVector3D(1, 2, 0));
-    EXPECT_TRUE(boundary->getGeo()->getEndVec() == KzVector3D(3, 4, 0));
-}
-
-TEST_F(BoundaryElements, MissingOwnWeightLeavesWhatIsThere) {
-    VarnelBoundaryData data;
-    data.setTransferOwnWeight(true);
-    data.setHeight(4.0);
-    document.readSubSystem("<E/><F><OWNWEIGHT SPECIFICWEIGHT=\"20\"/></F>");
-    document.exchange().readOneOwnWeightTransferData(document.find({"SUBSYSTEM", "E"}), &data);
-    EXPECT_DOUBLE_EQ(data.getSpecificWeight(), 25.0);
-    document.exchange().readOneOwnWeightTransferData(document.find({"SUBSYSTEM", "F"}), &data);
-    EXPECT_DOUBLE_EQ(data.getSpecificWeight(), 20.0);
-    EXPECT_DOUBLE_EQ(data.getHeight(), 4.0);
-    EXPECT_TRUE(data.doTransferOwnWeight());
-}
-
-TEST_F(BoundaryElements, DegreesOfFreedomThatAreMissingTakeThemAway) {
-    VarnelLineBoundaryData data(7, "w");
-    data.setWidth(0.2);
-    document.readSubSystem("<E/>");
-    document.exchange().readOneLineBoundaryData(document.find({"SUBSYSTEM", "E"}), &data);
-    EXPECT_EQ(data.getDof(), 0);
-    EXPECT_DOUBLE_EQ(data.getWidth(), 0.2);
-    EXPECT_EQ(data.getName(), "w");
-}
-
-TEST_F(BoundaryElements, DirectionOfZerosStaysZero) {
-    const VarnelLineBoundary *boundary =
-        readLine("LOCAL=\"1\"", lineElement(0, 0, 4, 0) + vectorElement("LOCSYS", 0, 0, 0));
-    EXPECT_TRUE(boundary->getLocsys() == KzVector3D());
-    boundary->getBase();
-    EXPECT_EQ(document.write().find("nan"), std::string::npos);
-}
-
-// An arc opens no element of its own and is taken for its chord when it is read.
-TEST_F(BoundaryElements, ArcIsWrittenByItsPartsAndComesBackStraight) {
-    addLine(new VarnelCircle(KzVector3D(2, 0, 0), KzVector3D(4, 0, 0), KzVector3D(2, 2, 0)));
-    EXPECT_EQ(textOf(writtenLine()), "<LBOUND NUMBER=\"1\" NAME=\"\" DOF=\"0\" WIDTH=\"0\" LOCAL=\"0\">" +
-                                         vectorElement("LOCSYS", 0, 0, 1) + "<TYPE>CIRCLE</TYPE>" +
-                                         vectorElement("CENTER", 2, 0, 0) + vectorElement("START", 4, 0, 0) +
-                                         vectorElement("END", 2, 2, 0) + ownWeight + "</LBOUND>");
-    document.read(document.text());
-    const VarnelLine *line = document.model().getLineBoundaries().back()->getGeo();
-    EXPECT_NE(dynamic_cast<const VarnelStraight *>(line), nullptr);
-    EXPECT_TRUE(line->getStartVec() == KzVector3D(4, 0, 0));
-    EXPECT_TRUE(line->getEndVec() == KzVector3D(2, 2, 0));
-}
-
-TEST_F(BoundaryElements, OldFormGivesAStraightLineAndItsEndsWin) {
-    const VarnelLine *line = readLine("", vectorElement("POSA", 1, 1, 0) + vectorElement("POSE", 2, 2, 0) +
-                                              vectorElement("START", 8, 8, 8) + vectorElement("END", 9, 9, 9))
-                                 ->getGeo();
-    EXPECT_NE(dynamic_cast<const VarnelStraight *>(line), nullptr);
-    EXPECT_TRUE(line->getStartVec() == KzVector3D(1, 1, 0));
-    EXPECT_TRUE(line->getEndVec() == KzVector3D(2, 2, 0));
-    line = readLine("", vectorElement("START", 8, 8, 8) + vectorElement("POSE", 2, 2, 0))->getGeo();
-    EXPECT_TRUE(line->getStartVec() == KzVector3D(8, 8, 8));
-    EXPECT_TRUE(line->getEndVec() == KzVector3D(2, 2, 0));
-    line = readLine("")->getGeo();
-    ASSERT_NE(line, nullptr);
-    EXPECT_TRUE(line->getStartVec() == KzVector3D());
-    EXPECT_TRUE(line->getEndVec() == KzVector3D());
-}
-
-TEST_F(BoundaryElements, ElementOfALineWithACircleIsReadAsOne) {
-    const auto *arc = dynamic_cast<VarnelCircle *>(
-        readLine("", "<LINE TYPE=\"CIRCLE\">" + vectorElement("CENTER", 2, 0, 0) +
-                         vectorElement("START", 4, 0, 0) + vectorElement("END", 2, 2, 0) + "</LINE>")
-            ->getGeo());
-    ASSERT_NE(arc, nullptr);
-}
-
-TEST_F(BoundaryElements, UnknownKindOfLineGivesNoneAndIsHarmless) {
-    for (const char *line : {"<LINE TYPE=\"SPLINE\"/>", "<LINE/>", "<LINE TYPE=\"straight\"/>"}) {
-        SCOPED_TRACE(line);
-        VarnelLineBoundary *boundary =
-            readLine("NUMBER=\"3\" LOCAL=\"1\"", line + vectorElement("POSA", 1, 1, 1));
-        EXPECT_EQ(boundary->getGeo(), nullptr);
-        EXPECT_EQ(boundary->getNumber(), 3);
-        boundary->setChanged(false);
-        EXPECT_FALSE(boundary->isInPlane(KzMatrix44()));
-        boundary->getBase();
-    }
-    const std::string text = document.write();
-    EXPECT_EQ(textOf(document.find({"SUBSYSTEM", "LBOUNDS"})).find("<LINE TYPE"), std::string::npos);
-    document.model().mergePointsInVarnelObjects();
-    Document again;
-    again.read(text);  // without any line, its ends are the origin
-    EXPECT_NE(again.model().getLineBoundaries().front()->getGeo(), nullptr);
-}
-
 TEST_F(BoundaryElements, HostAddsToSupportsThroughTheVirtualOperations) {
     class Other : public VarnelExchangeXml {
         void updateOnePointBoundary(Varnel *model, VarnelPointBoundary *boundary) override {
@@ -530,6 +377,37 @@ TEST_F(BoundaryElements, HostAddsToSupportsThroughTheVirtualOperations) {
     EXPECT_NE(text.find("HOST=\"2\""), std::string::npos);
 }
 
+TEST_F(BoundaryElements, NamesAreSetThroughTheVirtualOperation) {
+    class Point : public VarnelPointBoundary {
+      public:
+        Point() : VarnelPointBoundary(KzVector3D(), 0, nullptr) {}
+        void setName(const std::string &name) override { VarnelPointBoundary::setName("host " + name); }
+    } point;
+    class Line : public VarnelLineBoundaryData {
+        void setName(const std::string &name) override { VarnelLineBoundaryData::setName("host " + name); }
+    } line;
+    KzXmlData element("E", nullptr);
+    element.setAttribute("NAME", "A");
+    document.exchange().readOnePointBoundary(&element, &point);
+    document.exchange().readOneLineBoundaryData(&element, &line);
+    EXPECT_EQ(point.getName(), "host A");
+    EXPECT_EQ(line.getName(), "host A");
+}
+
+TEST_F(BoundaryElements, ReadersAnswerTheSupportThatTheyAdded) {
+    KzXmlData element("E", nullptr);
+    Varnel &model = document.model();
+    const VarnelPointBoundary *plain = document.exchange().createOnePointBoundary(&element, &model);
+    EXPECT_EQ(plain, model.getPointBoundaries().back());
+    element.makeChild("SHPCIRC");
+    const VarnelPointBoundary *circle = document.exchange().createOnePointBoundary(&element, &model);
+    EXPECT_EQ(circle, model.getPointBoundaries().back());
+    EXPECT_NE(circle, plain);
+    const VarnelLineBoundary *line = document.exchange().createOneLineBoundary(&element, &model);
+    ASSERT_NE(line, nullptr);
+    EXPECT_EQ(line, model.getLineBoundaries().back());
+}
+
 TEST_F(BoundaryElements, NothingToReadOrWriteIsHarmless) {
     VarnelExchangeXml &exchange = document.exchange();
     KzXmlData element("E", nullptr);
@@ -540,6 +418,23 @@ TEST_F(BoundaryElements, NothingToReadOrWriteIsHarmless) {
     exchange.updatePointBoundaries(nullptr);
     exchange.updateLineBoundaries(nullptr);
     exchange.updateOneLine(nullptr);
+    exchange.updateOnePointBoundary(nullptr, nullptr);
+    exchange.updateOneLineBoundary(nullptr, nullptr);
+    exchange.updateOneLineBoundaryData(nullptr);
+    exchange.updateOneOwnWeightTransferData(nullptr);
+    exchange.readOnePointBoundary(&element, nullptr);
+    exchange.readOneLineBoundary(&element, nullptr);
+    exchange.readOneLineBoundaryData(&element, nullptr);
+    exchange.readOneOwnWeightTransferData(&element, nullptr);
+    VarnelLineBoundary kept(nullptr);
+    kept.getData().setDof(7);
+    exchange.readOneLineBoundary(nullptr, &kept);
+    exchange.readOneLineBoundaryData(nullptr, &kept.getData());
+    exchange.readOneOwnWeightTransferData(nullptr, &kept.getData());
+    EXPECT_EQ(kept.getData().getDof(), 7);
+    VarnelPointBoundary point(KzVector3D(1, 2, 3), 7, nullptr);
+    exchange.readOnePointBoundary(nullptr, &point);
+    EXPECT_TRUE(point.getCoor() == KzVector3D(1, 2, 3));
     EXPECT_EQ(document.model().getNumberOfPointBoundaries(), 0);
     EXPECT_EQ(textOf(exchange.getTree()->getRoot()), "<VARNEL></VARNEL>");
 }

@@ -97,6 +97,16 @@ TEST_F(DesignElement, NullRecordWritesNothing) {
     EXPECT_EQ(textOf(document.find({})), "<VARNEL></VARNEL>");
 }
 
+TEST_F(DesignElement, NothingToReadIsHarmless) {
+    VarnelDesignData data(1.0, 0.01, 0.02, 0.03, 0.04);
+    const VarnelDesignData before = data;
+    KzXmlData element("PLATE", nullptr);
+    element.makeChild("DESIGN")->setAttribute("CUX", 1.0);
+    document.exchange().readDesignData(nullptr, &data);
+    document.exchange().readDesignData(&element, nullptr);
+    EXPECT_TRUE(data == before);
+}
+
 TEST_F(DesignElement, MissingItemsLeaveTheRecord) {
     VarnelDesignData data(1.0, 0.01, 0.02, 0.03, 0.04);
     data.setBasicMeshL(document.manager.getStockMesh("Q335A"));

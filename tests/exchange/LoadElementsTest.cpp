@@ -1,7 +1,8 @@
 #include <gtest/gtest.h>
 
 #include <climits>
-#include <cmath>
+#include <utility>
+#include <vector>
 
 #include "tests/support/Document.h"
 #include "varnel/contracts/SysBase/Loadcase.h"
@@ -147,6 +148,36 @@ TEST_F(LoadElements, LoadsMakeTheCasesThatTheyName) {
     EXPECT_EQ(made->getNumber(), 4);
     EXPECT_EQ(readArea("LC=\"4\"")->getLoadcase(), made);
     EXPECT_EQ(document.manager.getLoadcases().size(), 2u);
+}
+
+TEST_F(LoadElements, CasesComeThroughTheVirtualOperationOfTheManager) {
+    class Manager : public VarnelManager {
+      public:
+        using VarnelManager::VarnelManager;
+        SysBase::Loadcase *giveLoadcaseToNumber(int number, bool create) override {
+            asked.emplace_back(number, create);
+            return VarnelManager::giveLoadcaseToNumber(number, create);
+        }
+        std::vector<std::pair<int, bool>> asked;
+    };
+    VarnelFactory factory;
+    Manager manager(&factory);
+    VarnelExchangeXml exchange;
+    exchange.setManager(&manager);
+    VarnelPointLoad point;
+    VarnelLineLoad line(nullptr);
+    VarnelAreaLoad area;
+    KzXmlData element("E", nullptr);
+    exchange.readOnePointLoad(&element, &point);
+    EXPECT_TRUE(manager.asked.empty());
+    element.setAttribute("LC", 6);
+    exchange.readOnePointLoad(&element, &point);
+    exchange.readOneLineLoad(&element, &line);
+    exchange.readOneAreaLoad(&element, &area);
+    EXPECT_EQ(manager.asked, (std::vector<std::pair<int, bool>>(3, {6, true})));
+    EXPECT_NE(point.getLoadcase(), nullptr);
+    EXPECT_EQ(line.getLoadcase(), point.getLoadcase());
+    EXPECT_EQ(area.getLoadcase(), point.getLoadcase());
 }
 
 TEST_F(LoadElements, OddNumbersOfCasesAreHarmless) {
@@ -467,6 +498,30 @@ TEST_F(LoadElements, HostAddsToLoadsThroughTheVirtualOperations) {
               "<AREALOADS><AREALOAD NUMBER=\"1\" HOST=\"3\"></AREALOAD></AREALOADS></VARNEL>");
 }
 
+TEST_F(LoadElements, NameOfAPointLoadIsSetThroughTheVirtualOperation) {
+    class Load : public VarnelPointLoad {
+        void setName(const std::string &name) override { VarnelPointLoad::setName("host " + name); }
+    } load;
+    KzXmlData element("E", nullptr);
+    element.setAttribute("NAME", "P");
+    document.exchange().readOnePointLoad(&element, &load);
+    EXPECT_EQ(load.getName(), "host P");
+}
+
+TEST_F(LoadElements, ReadersAnswerTheLoadThatTheyAdded) {
+    KzXmlData element("E", nullptr);
+    Varnel &model = document.model();
+    const VarnelPointLoad *point = document.exchange().createOnePointLoad(&element, &model);
+    ASSERT_NE(point, nullptr);
+    EXPECT_EQ(point, model.getPointLoads().back());
+    const VarnelLineLoad *line = document.exchange().createOneLineLoad(&element, &model);
+    ASSERT_NE(line, nullptr);
+    EXPECT_EQ(line, model.getLineLoads().back());
+    const VarnelAreaLoad *area = document.exchange().createOneAreaLoad(&element, &model);
+    ASSERT_NE(area, nullptr);
+    EXPECT_EQ(area, model.getAreaLoads().back());
+}
+
 TEST_F(LoadElements, NothingToReadOrWriteIsHarmless) {
     VarnelExchangeXml &exchange = document.exchange();
     KzXmlData element("E", nullptr);
@@ -480,6 +535,30 @@ TEST_F(LoadElements, NothingToReadOrWriteIsHarmless) {
     exchange.updatePointLoads(nullptr);
     exchange.updateLineLoads(nullptr);
     exchange.updateAreaLoads(nullptr);
+    exchange.updateOnePointLoad(model, nullptr);
+    exchange.updateOneLineLoad(model, nullptr);
+    exchange.updateOneLineLoadData(nullptr);
+    exchange.updateOneAreaLoad(model, nullptr);
+    exchange.updateAreaLoadValues(nullptr);
+    exchange.readOnePointLoad(&element, nullptr);
+    exchange.readOneLineLoad(&element, nullptr);
+    exchange.readOneLineLoadData(&element, nullptr);
+    exchange.readOneAreaLoad(&element, nullptr);
+    exchange.readAreaLoadData(&element, nullptr);
+    exchange.createAreaLoadsToPlate(nullptr, &element);
+    VarnelPointLoad point;
+    point.setNumber(4);
+    exchange.readOnePointLoad(nullptr, &point);
+    EXPECT_EQ(point.getNumber(), 4);
+    VarnelLineLoad line(nullptr);
+    line.setP1(1, 2, 3);
+    exchange.readOneLineLoad(nullptr, &line);
+    exchange.readOneLineLoadData(nullptr, &line.getData());
+    EXPECT_TRUE(line.getP1() == KzVector3D(1, 2, 3));
+    VarnelAreaLoad area;
+    exchange.readOneAreaLoad(nullptr, &area);
+    exchange.readAreaLoadData(nullptr, &area);
+    EXPECT_TRUE(area.getP() == KzVector3D(0, 0, 1));
     EXPECT_EQ(textOf(exchange.getTree()->getRoot()), "<VARNEL></VARNEL>");
     EXPECT_EQ(model->getNumberOfPointLoads() + model->getNumberOfLineLoads() + model->getNumberOfAreaLoads(),
               0);

@@ -314,6 +314,70 @@ TEST_F(SettingsElement, DefaultsSurviveReadingAndWriting) {
     EXPECT_NE(textOf(written()), before);
 }
 
+// The element of a template has more than the record it is read into.
+TEST_F(SettingsElement, TemplateOfALineSupportTakesItsSpringsAndNotTheLocalFlag) {
+    VarnelLineBoundaryData support(4, "W");
+    support.setLocal(true);
+    support.setDispStiff(KzVector3D(1, 2, 3));
+    support.setTransferOwnWeight(true);
+    VarnelDefaultProperties::get()->setLBData(support);
+    EXPECT_EQ(writtenDefault("LINEBOUNDARY"), "<LINEBOUNDARY NAME=\"W\" DOF=\"4\" WIDTH=\"0\" LOCAL=\"1\">" +
+                                                  vectorElement("LOCSYS", 0, 0, 1) + "</LINEBOUNDARY>");
+    readDefaults("<LINEBOUNDARY LOCAL=\"1\">" + vectorElement("STIFFD", 4, 5, 6) +
+                 "<OWNWEIGHT TRANSFER=\"1\"/></LINEBOUNDARY>");
+    EXPECT_FALSE(defaults().getLBData().getLocal());
+    EXPECT_EQ(defaults().getLBData().getStiffness(), (std::vector<double>{4, 5, 6, 0, 0, 0}));
+    EXPECT_TRUE(defaults().getLBData().doTransferOwnWeight());
+}
+
+TEST_F(SettingsElement, TemplateOfABeamTakesNeitherMeshSizeNorGapsNorSpans) {
+    const std::string before = writtenDefault("BEAM");
+    readDefaults(
+        "<BEAM NUMBER=\"7\" MESHSIZE=\"0.2\" LEFTGAP=\"1\" RIGHTGAP=\"1\"><START><X>1</X></START><FOUNDB>"
+        "<FSPAN><LOCA POS=\"0\"/><LOCE POS=\"1\"/></FSPAN></FOUNDB></BEAM>");
+    EXPECT_EQ(writtenDefault("BEAM"), before);
+}
+
+TEST_F(SettingsElement, TemplateOfAPlateIsWrittenWithDesignDataAndTakesNone) {
+    const std::string before = writtenDefault("PLATE");
+    const VarnelDesignData design;
+    VarnelPlateProperties plate;
+    plate.setDesign(&design);
+    VarnelDefaultProperties::get()->setPlateProp(plate);
+    EXPECT_NE(writtenDefault("PLATE").find("<DESIGN THETA=\"0\""), std::string::npos);
+    readDefaults("<PLATE PTYPE=\"5\"><DESIGN CUX=\"1\"/><STEEL>unknown</STEEL></PLATE>");
+    EXPECT_EQ(defaults().getPlateProp().getDesign(), nullptr);
+    EXPECT_EQ(writtenDefault("PLATE"), before);
+}
+
+TEST_F(SettingsElement, TemplateOfAPointLoadIsAPlainForce) {
+    VarnelPointLoad load;
+    load.setDispLoad(true);
+    load.setAngle(0.5, 2);
+    load.setForce(KzVector3D(1, 2, 3));
+    VarnelDefaultProperties::get()->setPointLoad(load);
+    written();
+    document.exchange().get(&document.manager);
+    EXPECT_FALSE(defaults().getPointLoad().isDispLoad());
+    EXPECT_DOUBLE_EQ(defaults().getPointLoad().getAngle(2), 0.0);
+    EXPECT_TRUE(defaults().getPointLoad().getForce() == KzVector3D(1, 2, 3));
+}
+
+TEST_F(SettingsElement, NothingToReadIsHarmless) {
+    document.manager.setSystemBoundary(9);
+    document.exchange().createSettings(nullptr);
+    EXPECT_EQ(document.manager.getSystemBoundary(), 9);
+    VarnelExchangeXml alone;
+    alone.getTree()->getRoot()->makeChild("SETTINGS")->setAttribute("SYSBOUNDARY", 4);
+    alone.createSettings(alone.getTree()->getRoot());
+    EXPECT_EQ(document.manager.getSystemBoundary(), 9);
+    alone.updateSettings(nullptr);
+    EXPECT_EQ(document.find({"SETTINGS"}), nullptr);
+    const KzXmlData *settings = alone.getTree()->getRoot()->findChild("SETTINGS");
+    EXPECT_TRUE(settings->getAttributes().empty());
+    EXPECT_NE(settings->findChild("DEFAULT-PROPERTIES"), nullptr);
+}
+
 // The plate is read after the beam and before the hole.
 TEST_F(SettingsElement, UnknownMaterialOfTheDefaultPlateStopsTheReading) {
     EXPECT_THROW(readDefaults("<HOLE NAME=\"n\"/><PLATE><CONCRETE>mud</CONCRETE></PLATE><BEAM NAME=\"n\"/>"),

@@ -52,6 +52,7 @@ void VarnelExchangeXml::updateOnePointBoundary(Varnel *, VarnelPointBoundary *bo
     const bool inXY = boundary->onlyRotatedInXY();
     setAttribute("NAME", boundary->getName());
     setAttribute("DOF", boundary->getDof());
+    // A spacing of 0 is meant to be left out, although it comes back as that of a new support.
     if (boundary->getSpacing() != 0.0) setAttribute("SPC", boundary->getSpacing());
     OutputPointBoundary shape(*this);
     boundary->getVisited(&shape);
@@ -160,6 +161,7 @@ void VarnelExchangeXml::updateOneLineBoundaryData(const VarnelLineBoundaryData *
     updateVectorToKey("LOCSYS", data->getLocsys());
 }
 
+/// Without "LOCAL": meant to be taken by the free support alone, so that a template is never local.
 void VarnelExchangeXml::readOneLineBoundaryData(KzXmlData *element, VarnelLineBoundaryData *data) {
     if (!element || !data) return;
     data->setDof(varnel::readInt(element, "DOF", 0));

@@ -31,28 +31,30 @@ int surfaceOf(const std::string &word) {
     return intended;
 }
 
-const struct {
+struct NumberKey {
     const char *key;
     double (VarnelDesignData::*get)() const;
     void (VarnelDesignData::*set)(double);
-} coverKeys[] =
-    {
-        {"CUX", &VarnelDesignData::getCoverXu, &VarnelDesignData::setCoverXu},
-        {"CUY", &VarnelDesignData::getCoverYu, &VarnelDesignData::setCoverYu},
-        {"CLX", &VarnelDesignData::getCoverXl, &VarnelDesignData::setCoverXl},
-        {"CLY", &VarnelDesignData::getCoverYl, &VarnelDesignData::setCoverYl},
-        {"CNOM", &VarnelDesignData::getCnom, &VarnelDesignData::setCnom},
-        {"MIN-STEEL", &VarnelDesignData::getMinimumSteel, &VarnelDesignData::setMinimumSteel},
-},
-  shearKeys[] = {
-      {"MIN-SHEAR-REINF", &VarnelDesignData::getMinShearReinforcement,
-       &VarnelDesignData::setMinShearReinforcement},
-      {"SHEAR-ANGLE", &VarnelDesignData::getShearAngle, &VarnelDesignData::setShearAngle},
-      {"STRUT-ANGLE", &VarnelDesignData::getStrutAngle, &VarnelDesignData::setStrutAngle},
-      {"JOINT-POSITION", &VarnelDesignData::getJointPosition, &VarnelDesignData::setJointPosition},
-      {"BOND-REINF-ANGLE", &VarnelDesignData::getBondReinfAngle, &VarnelDesignData::setBondReinfAngle},
-      {"SHEAR-REINF-STRENGTH", &VarnelDesignData::getShearReinfStrength,
-       &VarnelDesignData::setShearReinfStrength},
+};
+
+constexpr NumberKey coverKeys[] = {
+    {"CUX", &VarnelDesignData::getCoverXu, &VarnelDesignData::setCoverXu},
+    {"CUY", &VarnelDesignData::getCoverYu, &VarnelDesignData::setCoverYu},
+    {"CLX", &VarnelDesignData::getCoverXl, &VarnelDesignData::setCoverXl},
+    {"CLY", &VarnelDesignData::getCoverYl, &VarnelDesignData::setCoverYl},
+    {"CNOM", &VarnelDesignData::getCnom, &VarnelDesignData::setCnom},
+    {"MIN-STEEL", &VarnelDesignData::getMinimumSteel, &VarnelDesignData::setMinimumSteel},
+};
+
+constexpr NumberKey shearKeys[] = {
+    {"MIN-SHEAR-REINF", &VarnelDesignData::getMinShearReinforcement,
+     &VarnelDesignData::setMinShearReinforcement},
+    {"SHEAR-ANGLE", &VarnelDesignData::getShearAngle, &VarnelDesignData::setShearAngle},
+    {"STRUT-ANGLE", &VarnelDesignData::getStrutAngle, &VarnelDesignData::setStrutAngle},
+    {"JOINT-POSITION", &VarnelDesignData::getJointPosition, &VarnelDesignData::setJointPosition},
+    {"BOND-REINF-ANGLE", &VarnelDesignData::getBondReinfAngle, &VarnelDesignData::setBondReinfAngle},
+    {"SHEAR-REINF-STRENGTH", &VarnelDesignData::getShearReinfStrength,
+     &VarnelDesignData::setShearReinfStrength},
 };
 
 }  // namespace

@@ -107,6 +107,7 @@ void VarnelExchangeXmlBeam::readOneBeam(KzXmlData *element, VarnelBeam *beam, Va
     if (varnel::readInt(element, "RIGHTGAP", 0) != 0) beam->setRightGap(new VarnelGapControl);
     readSections(element, beam);
     readMaterials(element, beam);
+    // "JOINTS" of old documents are meant to be dropped, as are their results.
     readFoundations(element, beam);
 }
 
