@@ -62,6 +62,14 @@ class CommandLine(ToolTest):
             for command in COMMANDS if len(arguments) == 1 else arguments[:1]:
                 self.assertIn(f"  varnel {command} " if len(arguments) == 1 else f"Example: varnel {command} ", out)
 
+    def test_the_guide_shows_what_is_printed(self):
+        text = (ROOT / "docs" / "command-line.md").read_text(encoding="utf-8")
+        shown = re.findall(r"^    \$ varnel (\w+ (?:examples|tests)/\S+)\n((?:(?:    .*)?\n)*)", text, re.M)
+        self.assertEqual(len(shown), 2)
+        for command, printed in shown:
+            with self.subTest(command):
+                self.assertEqual(re.sub(r"^    ", "", printed, flags=re.M).strip(), run(*command.split(), cwd=ROOT)[1].strip())
+
     def test_the_version_is_that_of_the_library(self):
         version = re.search(r"project\(varnel VERSION (\S+)", (ROOT / "CMakeLists.txt").read_text()).group(1)
         self.assertEqual(run("--version"), (CLEAN, f"varnel {version}\n", ""))
