@@ -157,6 +157,11 @@ TEST(VarnelBase, AnAssignmentMarksAChangeWhateverTheSourcesFlag) {
     EXPECT_TRUE(target.getChanged());
     expectFrame(someFrame(), target.getMatrix());
     EXPECT_NE(source.getMatrix(), target.getMatrix());
+    const KzMatrix44 *frame = target.getMatrix();
+    source.setAngle(0.5, 2);
+    target = source;
+    EXPECT_EQ(frame, target.getMatrix()) << "a frame that is there takes the values";
+    expectFrame(*source.getMatrix(), frame);
     target = VarnelBase();
     EXPECT_EQ(nullptr, target.getMatrix());
 }

@@ -2,20 +2,15 @@
 
 #include <cmath>
 
-namespace {
-
-std::unique_ptr<KzMatrix44> cloneOf(const KzMatrix44 *matrix) {
-    return matrix ? std::make_unique<KzMatrix44>(*matrix) : nullptr;
-}
-
-}  // namespace
-
 VarnelBase::VarnelBase(const VarnelBase &other)
-    : changed_(other.changed_), matrix_(cloneOf(other.getMatrix())) {}
+    : changed_(other.changed_), matrix_(other.matrix_ ? new KzMatrix44(*other.matrix_) : nullptr) {}
 
 VarnelBase &VarnelBase::operator=(const VarnelBase &other) {
     changed_ = true;  // also if the source is unchanged: it is this object that changes
-    if (this != &other) matrix_ = cloneOf(other.getMatrix());
+    if (other.matrix_)
+        setMatrix(*other.matrix_);
+    else
+        matrix_.reset();
     return *this;
 }
 
