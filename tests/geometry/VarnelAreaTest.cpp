@@ -83,6 +83,9 @@ TEST(VarnelArea, TheClosingLineStaysTheSameObjectWithItsDivision) {
     EXPECT_EQ(6, closing->getNumberOfParts());
     EXPECT_EQ((Points{p, q, r, s}), starts(area));
     expectClosed(area);
+    for (const VarnelLine *line : area.getEdges()) line->getStart()->setChanged(false);
+    EXPECT_FALSE(closing->getChanged()) << "its own flag stays";
+    EXPECT_TRUE(area.getLine(2)->getChanged()) << "a new line";
 }
 
 TEST(VarnelArea, AnAddedLineIsClosedByTheSecondVertex) {
@@ -176,6 +179,16 @@ TEST(VarnelArea, HeightsOfTheOutlineDoNotCountForAPlaceOnIt) {
     EXPECT_TRUE(ring({p, q, r + KzVector3D(0.0, 0.0, 7.0), s}).checkPointOn(KzVector3D(1.0, 0.5, -3.0)));
     const VarnelArea upright = ring({{0.0, 0.0, 0.0}, {2.0, 0.0, 0.0}, {2.0, 0.0, 3.0}, {0.0, 0.0, 3.0}});
     EXPECT_FALSE(upright.checkPointOn(KzVector3D(1.0, 0.1, 1.0)));
+}
+
+TEST(VarnelArea, HeightsThatAreNoNumbersDoNotCountForAPlaceOnItEither) {
+    for (const double height :
+         {std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity()}) {
+        SCOPED_TRACE(height);
+        const VarnelArea area = ring({p, q, {2.0, 1.0, height}, s});
+        EXPECT_TRUE(area.checkPointOn(KzVector3D(1.0, 0.5, height)));
+        EXPECT_FALSE(area.checkPointOn(KzVector3D(3.0, 0.5, height)));
+    }
 }
 
 TEST(VarnelArea, IsRightHandedIfItRunsAnticlockwiseSeenFromAbove) {

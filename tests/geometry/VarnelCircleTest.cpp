@@ -9,6 +9,7 @@
 
 #include "tests/support/CountedPoint.h"
 #include "tests/support/Places.h"
+#include "tests/support/StubbornPoint.h"
 #include "varnel/contracts/KzMath.h"
 #include "varnel/geometry/VarnelLineVisitor.h"
 #include "varnel/geometry/VarnelStraight.h"
@@ -168,6 +169,24 @@ TEST(VarnelCircle, LiesInAPlaneWithItsCentreToo) {
     EXPECT_FALSE(VarnelCircle(origin, east, up).isInPlane(KzMatrix44::getId()));
 }
 
+TEST(VarnelCircle, AsksItsPointsThroughTheirVirtualOperations) {
+    const KzMatrix44 plane = KzMatrix44::getId();
+    VarnelCircle arc = quarter();
+    const std::unique_ptr<VarnelPoint> former(arc.getStart());
+    auto *start = new varnel::StubbornPoint(up);
+    arc.setP1(start);
+    EXPECT_FALSE(arc.isInPlane(plane));
+    start->inPlane = true;
+    EXPECT_TRUE(arc.isInPlane(plane));
+    KzVector3D min, max;
+    arc.updateMinMax(&min, &max, plane);
+    EXPECT_EQ(1, start->boxes);
+    EXPECT_EQ(KzVector3D(0.0, 1.0, 0.0), max) << "the end alone has widened the box";
+    arc.setChanged(false);
+    start->changed = true;
+    EXPECT_TRUE(arc.getChanged());
+}
+
 TEST(VarnelCircle, AnArcInThePlaneDoesNotTouchIt) {
     EXPECT_FALSE(quarter().touchesPlane(KzMatrix44::getId()));
 }
@@ -322,6 +341,7 @@ TEST(VarnelCircle, WithoutAStartPointEveryQuestionIsHarmless) {
     EXPECT_FALSE(arc.getChanged());
     EXPECT_FALSE(arc.isInPlane(KzMatrix44::getId()));
     EXPECT_FALSE(arc.touchesPlane(planeAtHeight(1.0)));
+    EXPECT_FALSE(arc.touchesPlane(KzMatrix44::getId()));
     KzVector3D min(9.0, 9.0, 9.0), max(-9.0, -9.0, -9.0);
     arc.updateMinMax(&min, &max, KzMatrix44::getId());
     EXPECT_EQ(up, min);

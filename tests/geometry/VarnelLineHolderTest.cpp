@@ -11,6 +11,7 @@
 #include "tests/support/CountedPoint.h"
 #include "tests/support/Places.h"
 #include "tests/support/RecordingObjectVisitor.h"
+#include "tests/support/StubbornPoint.h"
 #include "tests/support/VirtualSlot.h"
 #include "varnel/geometry/VarnelArea.h"
 #include "varnel/geometry/VarnelBeamGeo.h"
@@ -57,6 +58,11 @@ TEST(VarnelLineHolder, KeepsTheOrderOfItsVirtualOperations) {
     EXPECT_EQ(10, virtualSlot(&VarnelLineHolder::reset));
     EXPECT_EQ(11, virtualSlot(&VarnelLineHolder::isDegenerated));
     EXPECT_EQ(12, virtualSlot(&VarnelLineHolder::clone));
+    EXPECT_EQ(-1, virtualSlot(&VarnelLineHolder::setChanged));
+    EXPECT_EQ(-1, virtualSlot(&VarnelLineHolder::addLine));
+    EXPECT_EQ(-1, virtualSlot(&VarnelLineHolder::getLength));
+    EXPECT_EQ(-1, virtualSlot(&VarnelLineHolder::getBase));
+    EXPECT_EQ(-1, virtualSlot(&VarnelLineHolder::operator==));
 }
 
 TEST(VarnelLineHolder, MovingAPointMovesAndChangesBothLinesThatShareIt) {
@@ -201,6 +207,55 @@ TEST(VarnelLineHolder, OnePointInThePlaneTouchesItAndOneOutsideLeavesIt) {
     EXPECT_TRUE(axis.touchesPlane(KzMatrix44::getId()));
     EXPECT_FALSE(axis.isInPlane(KzMatrix44::getId()));
     EXPECT_FALSE(chain({{0.0, 0.0, 5.0}, {1.0, 0.0, -4.0}}).touchesPlane(KzMatrix44::getId()));
+}
+
+TEST(VarnelLineHolder, PointsAnswerForTouchingAndPlanarButNotForLyingInAPlane) {
+    auto *stubborn = new varnel::StubbornPoint(square[3]);
+    VarnelArea area;
+    area.addLine(new VarnelStraight(square[0], square[1]));
+    area.addLine(new VarnelStraight(*area.getLine(0), new VarnelPoint(square[2])));
+    area.addLine(new VarnelStraight(*area.getLine(1), stubborn));
+    area.addLine(new VarnelStraight(*area.getLine(2), new VarnelPoint(square[0])));
+    area.meltFirstAndLast();
+    ASSERT_EQ(stubborn, &area.getPoint(3));
+    for (const bool answer : {false, true}) {
+        SCOPED_TRACE(answer);
+        stubborn->inPlane = answer;
+        EXPECT_EQ(answer, area.touchesPlane(planeAtHeight(5.0)));
+        EXPECT_EQ(answer, area.isPlanar());
+        EXPECT_TRUE(area.isInPlane(KzMatrix44::getId())) << "by the place itself";
+        EXPECT_FALSE(area.isInPlane(planeAtHeight(5.0)));
+    }
+    KzVector3D min, max;
+    area.updateMinMax(&min, &max, KzMatrix44::getId());
+    EXPECT_EQ(1, stubborn->boxes);
+    area.getMinMax(&min, &max);
+    EXPECT_EQ(1, stubborn->boxes) << "the plain box takes the places";
+}
+
+TEST(VarnelLineHolder, AsksItsLinesThroughTheirVirtualOperations) {
+    class Stretched : public VarnelStraight {
+      public:
+        using VarnelStraight::VarnelStraight;
+        double getLength() const override { return length; }
+        bool getChanged() const override { return changed; }
+        void setChanged(bool value) override { changed = value; }
+        double length = 7.0;
+        bool changed = false;
+    };
+    auto *first = new Stretched(square[0], square[1]);
+    VarnelBeamGeo axis;
+    axis.addLine(first);
+    axis.addVertex(square[2]);
+    axis.addVertex(square[2]);
+    EXPECT_EQ(8.0, axis.getLength());
+    EXPECT_FALSE(axis.isDegenerated());
+    first->length = 0.5e-4;
+    EXPECT_TRUE(axis.isDegenerated());
+    axis.setChanged(false);
+    EXPECT_FALSE(axis.getChanged());
+    first->changed = true;
+    EXPECT_TRUE(axis.getChanged());
 }
 
 TEST(VarnelLineHolder, ThreeLinesAreAlwaysPlanar) {

@@ -25,6 +25,9 @@ TEST(VarnelPoint, KeepsTheOrderOfItsVirtualOperations) {
     EXPECT_EQ(6, virtualSlot(&VarnelPoint::isIn));
     EXPECT_EQ(7, virtualSlot(&VarnelPoint::getChanged));
     EXPECT_EQ(8, virtualSlot(&VarnelPoint::setChanged));
+    EXPECT_EQ(-1, virtualSlot(&VarnelPoint::setCoor));
+    EXPECT_EQ(-1, virtualSlot(&VarnelPoint::setNumber));
+    EXPECT_EQ(-1, virtualSlot(&VarnelPoint::clone));
 }
 
 TEST(VarnelPoint, IsBornChangedWithNumberZero) {

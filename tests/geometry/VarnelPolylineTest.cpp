@@ -2,9 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <type_traits>
+
 #include "tests/support/Places.h"
 
 namespace {
+
+static_assert(!std::is_polymorphic<VarnelPolyline>::value, "a plain list");
 
 const KzVector3D p(0.0, 0.0, 0.0), q(2.0, 0.0, 0.0), r(2.0, 1.0, 0.0), s(0.0, 1.0, 0.0);
 

@@ -8,6 +8,7 @@
 
 #include "tests/support/CountedPoint.h"
 #include "tests/support/Places.h"
+#include "tests/support/StubbornPoint.h"
 #include "varnel/geometry/VarnelCircle.h"
 #include "varnel/geometry/VarnelLineVisitor.h"
 
@@ -292,6 +293,39 @@ TEST(VarnelStraight, NeverEqualsAnArc) {
     EXPECT_EQ(1, arc != line);
     EXPECT_FALSE(line.hasSamePoints(&arc));
     EXPECT_FALSE(arc.hasSamePoints(&line));
+}
+
+TEST(VarnelStraight, AsksItsPointsThroughTheirVirtualOperations) {
+    const KzMatrix44 plane = KzMatrix44::getId();
+    auto *start = new varnel::StubbornPoint(origin);
+    auto *end = new varnel::StubbornPoint(east);
+    VarnelStraight line(start, end);
+    EXPECT_FALSE(line.touchesPlane(plane));
+    end->inPlane = true;
+    EXPECT_TRUE(line.touchesPlane(planeAtHeight(9.0)));
+    EXPECT_FALSE(line.isInPlane(plane));
+    start->inPlane = true;
+    EXPECT_TRUE(line.isInPlane(planeAtHeight(9.0)));
+    KzVector3D min, max;
+    line.updateMinMax(&min, &max, plane);
+    EXPECT_EQ(1, start->boxes);
+    EXPECT_EQ(1, end->boxes);
+    line.setChanged(false);
+    EXPECT_FALSE(line.getChanged());
+    for (varnel::StubbornPoint *point : {start, end}) {
+        point->changed = true;
+        EXPECT_TRUE(line.getChanged());
+        point->changed = false;
+    }
+}
+
+TEST(VarnelStraight, EqualityDoesNotDependOnWhatAHostCallsTheSamePoints) {
+    class Lonely : public VarnelStraight {
+      public:
+        using VarnelStraight::VarnelStraight;
+        bool hasSamePoints(const VarnelLine *) const override { return false; }
+    };
+    EXPECT_EQ(1, Lonely(origin, east) == VarnelStraight(east, origin));
 }
 
 TEST(VarnelStraight, InequalityAsksTheArgument) {

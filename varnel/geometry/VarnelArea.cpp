@@ -7,15 +7,22 @@
 #include "varnel/geometry/VarnelPoint.h"
 #include "varnel/geometry/VarnelStraight.h"
 
+namespace {
+
+std::vector<KzVector3D> movedInto(const KzMatrix44 &base, std::vector<KzVector3D> points) {
+    for (KzVector3D &point : points) point = base.transform(point);
+    return points;
+}
+
+}  // namespace
+
 VarnelArea::VarnelArea(const VarnelArea &other) : VarnelLineHolder(other) {
     copy(other);
 }
 
 KzVector3D VarnelArea::getCOG() const {
     const KzMatrix44 base = getBase();
-    std::vector<KzVector3D> ring = getCoordinatesOfPoints();
-    for (KzVector3D &point : ring) point = base.transform(point);
-    return base.transformBack(KzMath::polygonCentroid(ring));
+    return base.transformBack(KzMath::polygonCentroid(movedInto(base, getCoordinatesOfPoints())));
 }
 
 std::vector<KzVector3D> VarnelArea::getCoordinatesOfPoints() const {
@@ -99,13 +106,13 @@ VarnelArea &VarnelArea::operator=(const VarnelArea &other) {
 }
 
 double VarnelArea::getArea() const {
-    return getNumLines() < 2 ? 0.0 : KzMath::polygonArea(startsIn(getBase()));
+    return getNumLines() < 2 ? 0.0 : KzMath::polygonArea(movedInto(getBase(), starts()));
 }
 
 bool VarnelArea::checkPointOn(const KzVector3D &place) const {
-    return KzMath::pointInPolygon2d(place, startsIn(KzMatrix44::getId()), 0.001) != 0;
+    return KzMath::pointInPolygon2d(place, starts(), 0.001) != 0;
 }
 
 bool VarnelArea::checkRightHandedXY() const {
-    return KzMath::polygonAreaXYZ(startsIn(KzMatrix44::getId()), KzVector3D::getGlobalZ()) > 0.0;
+    return KzMath::polygonAreaXYZ(starts(), KzVector3D::getGlobalZ()) > 0.0;
 }

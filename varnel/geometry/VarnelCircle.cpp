@@ -43,7 +43,7 @@ bool VarnelCircle::isInPlane(const KzMatrix44 &plane) const {
 
 bool VarnelCircle::touchesPlane(const KzMatrix44 &plane) const {
     double height = 0.0;
-    if (!plane.cutWithLine(getCenterVec(), plane.getVector(2), height)) return false;
+    if (!start_ || !plane.cutWithLine(getCenterVec(), plane.getVector(2), height)) return false;
     // Exactly tangential, without a tolerance: an arc that lies in the plane or crosses it does not touch it.
     return std::fabs(height) == getRadius();
 }

@@ -37,7 +37,6 @@ class VARNEL_EXPORT VarnelLine : public VarnelObject, public varnel::Shared {
     /// Takes over the other line's division into parts, or its absence.
     void copy(const VarnelLine &other);
 
-    void updateMinMax(KzVector3D *min, KzVector3D *max, const KzMatrix44 &matrix) const override = 0;
     /// Lines are no objects of a model: answers 0 and calls nothing.
     int getVisited(VarnelObjectVisitor *visitor) override;
     bool isInPlane(const KzMatrix44 &plane) const override = 0;

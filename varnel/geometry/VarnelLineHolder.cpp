@@ -241,9 +241,9 @@ void VarnelLineHolder::copy(const VarnelLineHolder &other) {
     for (std::size_t i = 0; i < points; ++i) addVertex(other.getCoor(i));
 }
 
-std::vector<KzVector3D> VarnelLineHolder::startsIn(const KzMatrix44 &base) const {
-    std::vector<KzVector3D> starts;
-    starts.reserve(lines_.size());
-    for (const VarnelLine *line : lines_) starts.push_back(base.transform(line->getStartVec()));
-    return starts;
+std::vector<KzVector3D> VarnelLineHolder::starts() const {
+    std::vector<KzVector3D> places;
+    places.reserve(lines_.size());
+    for (const VarnelLine *line : lines_) places.push_back(line->getStartVec());
+    return places;
 }

@@ -46,7 +46,7 @@ class VARNEL_EXPORT VarnelLineHolder : public VarnelObject, public varnel::Share
     /// Whether the starts of all lines lie in the plane of the first three. The last point of an open chain
     /// does not count.
     bool isPlanar() const;
-    /// Frame of the chain: x along the first line, z upright on the first point off it, origin in point 0.
+    /// Frame of the chain: x along the first line, y towards the first point off it, origin in point 0.
     /// Identity for up to two lines.
     KzMatrix44 getBase() const;
     /// Unit normal, opposite to the z axis of getBase(); null for a chain along one straight.
@@ -90,8 +90,8 @@ class VARNEL_EXPORT VarnelLineHolder : public VarnelObject, public varnel::Share
     /// The place that the first vertex gave, or null.
     const KzVector3D *firstVertex() const noexcept { return firstVertex_.get(); }
     void setFirstVertex(const KzVector3D &coordinates);
-    /// Starts of all lines in their order, moved into a frame.
-    std::vector<KzVector3D> startsIn(const KzMatrix44 &base) const;
+    /// Starts of all lines in their order.
+    std::vector<KzVector3D> starts() const;
 
   private:
     const VarnelPoint *findPoint(std::size_t index) const;

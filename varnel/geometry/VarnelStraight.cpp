@@ -34,7 +34,7 @@ bool VarnelStraight::touchesPlane(const KzMatrix44 &plane) const {
 }
 
 int VarnelStraight::operator==(const VarnelLine &other) const {
-    return this == &other || hasSamePoints(&other);
+    return this == &other || VarnelStraight::hasSamePoints(&other);
 }
 
 VarnelLine &VarnelStraight::operator=(const VarnelLine &other) {
