@@ -146,6 +146,20 @@ TEST_F(VarnelLoadcases, SetupMakesCasesAnewAndUpdateAllKeepsThem) {
     EXPECT_EQ(manager.getCurrentLoadcase(), nullptr);
 }
 
+TEST_F(VarnelLoadcases, SetupLeavesNoFormerCaseInLoadsThatTakeNoPartInIt) {
+    SysBase::Loadcase *former = manager.giveLoadcaseToName("former");
+    VarnelBeamLoad *load = model->giveBeamLoad();
+    load->setLoadcase(former);
+    VarnelPointLoad byDefault;
+    byDefault.setLoadcase(former);
+    VarnelDefaultProperties::get()->setPointLoad(byDefault);
+    manager.updateAll();
+    EXPECT_EQ(load->getLoadcase(), former);
+    manager.setup();
+    EXPECT_EQ(load->getLoadcase(), nullptr);
+    EXPECT_EQ(VarnelDefaultProperties::get()->getPointLoad().getLoadcase(), nullptr);
+}
+
 TEST_F(VarnelLoadcases, PointLoadsComeBeforeLineLoadsAndAreaLoads) {
     for (const double x : {0.0, 10.0, 20.0}) addPlate(x, 0, 4, 4);
     VarnelAreaLoad *area = model->giveAreaLoad();
@@ -423,6 +437,38 @@ TEST_F(VarnelLoadcases, LocatorFindsWhatTheWalkFinds) {
     }
     EXPECT_EQ(varnel::PlateLocator({}).find(KzVector3D()), nullptr);
     EXPECT_EQ(varnel::PlateLocator({nullptr}).find(KzVector3D(std::nan(""), 0, 0)), nullptr);
+}
+
+// A ring with a corner that is not a number is open, and rounding takes one that is far away beyond its box.
+TEST_F(VarnelLoadcases, LocatorFindsWhatTheWalkFindsOnOutlinesThatAreNoRings) {
+    std::mt19937 random(20261121);
+    std::uniform_real_distribution<double> place(-1.0, 1.0);
+    const double infinity = std::numeric_limits<double>::infinity();
+    const double odd[] = {std::nan(""), infinity, -infinity, 1e308, -1e308, 1e98, 1e10};
+    int found = 0;
+    for (const double coordinate : odd) {
+        SCOPED_TRACE(coordinate);
+        for (int round = 0; round < 60; ++round) {
+            model->removeAll();
+            for (int plates = 0; plates < 6; ++plates) {
+                std::vector<KzVector3D> corners;
+                for (int i = 0; i < 5; ++i) corners.emplace_back(place(random), place(random), 0);
+                double components[] = {corners[1].getX(), corners[1].getY(), 0.0};
+                components[random() % 3] = coordinate;
+                corners[1].setXYZ(components[0], components[1], components[2]);
+                model->givePlate(true)->setArea(new VarnelAreaPolygon(corners));
+            }
+            model->givePlate(true)->setArea(new VarnelArea);
+            const varnel::PlateLocator locator(model->getPlates());
+            for (int i = 0; i < 50; ++i) {
+                const KzVector3D p(2.0 * place(random), 2.0 * place(random), 0);
+                const VarnelPlate *expected = model->findPlateToCoor(p);
+                ASSERT_EQ(locator.find(p), expected);
+                if (expected) ++found;
+            }
+        }
+    }
+    EXPECT_GT(found, 0);
 }
 
 }  // namespace

@@ -4,7 +4,6 @@
 
 #include <fstream>
 #include <memory>
-#include <utility>
 
 #include "tests/support/RecordingServices.h"
 #include "tests/support/TemporaryFolder.h"
@@ -28,7 +27,6 @@
 #include "varnel/members/VarnelHole.h"
 #include "varnel/members/VarnelPlate.h"
 #include "varnel/model/Varnel.h"
-#include "varnel/model/VarnelDB.h"
 #include "varnel/model/VarnelSubSystem.h"
 
 namespace {
@@ -159,6 +157,26 @@ TEST_F(VarnelManagerTest, NewFactoryBringsItsModeAndIsNotToldOfTheManager) {
     EXPECT_EQ(manager.getConverter(), nullptr);
 }
 
+TEST_F(VarnelManagerTest, NewFactoryMakesTheAnalysisAnewAndTheOtherServicesStay) {
+    const VarnelExchange *exchange = manager.getExchange();
+    const VarnelDataChecker *checker = manager.getDataChecker();
+    const VarnelErrorHandler *handler = manager.getErrorHandler();
+    manager.getConverter();
+    manager.getCalculator();
+    manager.getDesigner();
+    recording::Factory other;
+    manager.setFactory(&other);
+    manager.getConverter();
+    manager.getCalculator();
+    manager.getDesigner();
+    EXPECT_EQ(other.made, 3);
+    EXPECT_EQ(manager.getExchange(), exchange);
+    EXPECT_EQ(manager.getDataChecker(), checker);
+    EXPECT_EQ(manager.getErrorHandler(), handler);
+    EXPECT_EQ(other.made, 3);
+    manager.setFactory(&factory);  // the other one dies first
+}
+
 TEST_F(VarnelManagerTest, ToleranceIsTheConverters) {
     EXPECT_DOUBLE_EQ(manager.getTolerance(), 0.25);
     manager.setTolerance(0.5);
@@ -208,6 +226,22 @@ TEST_F(VarnelManagerTest, RecursiveSearchEndsInTheFirstChild) {
     VarnelSubSystem *parent = root;
     EXPECT_EQ(manager.findSubSystem("below", second, parent, false), below);
     EXPECT_EQ(parent, second);
+}
+
+TEST_F(VarnelManagerTest, MissingSubSystemsArePassedOver) {
+    manager.add(nullptr, root);
+    manager.add(nullptr, nullptr);
+    VarnelSubSystem *child = addChild(root, "a");
+    VarnelSubSystem *grandchild = addChild(child, "b");
+    EXPECT_EQ(manager.findSubSystem("a", true), child);
+    EXPECT_EQ(manager.findSubSystem("b", true), grandchild);
+    child->getDatabase()->givePlate(true);
+    manager.setup();
+    EXPECT_TRUE(manager.systemChanged());
+    VarnelSubSystem stranger("stranger", &factory, nullptr);
+    EXPECT_EQ(manager.removeSubSystem(&stranger, true), 0);
+    EXPECT_EQ(manager.removeSubSystem(grandchild, true), 1);
+    delete grandchild;
 }
 
 TEST_F(VarnelManagerTest, ParentIsWrittenOnlyWhenAChildMatched) {
@@ -449,96 +483,6 @@ TEST(VarnelManager, WithoutAFactoryIsEmptyAndHarmless) {
     EXPECT_EQ(manager.update(), 1);
     manager.output("nothing.xml");
     manager.setup();
-}
-
-/// Notes its death in the record of a factory.
-template <class Base>
-class Mortal : public Base {
-  public:
-    template <class... Arguments>
-    Mortal(recording::Script &script, const std::string &name, Arguments &&...arguments)
-        : Base(std::forward<Arguments>(arguments)...), deaths_(script), name_(name) {}
-    ~Mortal() override { deaths_.note("~" + name_); }
-
-  private:
-    recording::Script &deaths_;
-    std::string name_;
-};
-
-class MortalFactory : public recording::Factory {
-    template <class Service>
-    Service *give(const char *name) const {
-        return new Mortal<Service>(script, name, script);
-    }
-    VarnelCalculator *giveCalculator() const override { return give<recording::Calculator>("calculator"); }
-    VarnelConverter *giveConverter() const override { return give<recording::Converter>("converter"); }
-    VarnelDesigner *giveDesigner() const override { return give<recording::Designer>("designer"); }
-    VarnelExchange *giveExchange() const override { return give<recording::Exchange>("exchange"); }
-    VarnelDataChecker *giveDataChecker() override { return give<recording::DataChecker>("checker"); }
-    Varnel *giveDatabase() const override { return new Mortal<VarnelDB>(script, "model", getManager()); }
-};
-
-TEST(VarnelManager, EverythingDiesInOrder) {
-    MortalFactory factory;
-    {
-        VarnelManager manager(&factory);
-        manager.getDataChecker();
-        manager.getExchange();
-        manager.getConverter();
-        manager.getCalculator();
-        manager.getDesigner();
-        manager.getErrorHandler();
-        recording::Script &script = factory.script;
-        auto *generated = new Mortal<SDBSectionLine>(script, "generated section", "generated", 0.1);
-        generated->setUserDefined(false);
-        manager.getDgnMeshList()->addMesh(new Mortal<KzReinfStockMesh>(script, "mesh", "M", 1.0, 1.0));
-        manager.getDgnList()->add(new Mortal<KzReinfLine>(script, "line", 1, "L"));
-        manager.getSectionManager()->add(new Mortal<SDBSectionLine>(script, "section", "own", 0.1));
-        manager.getSectionManager()->add(generated);
-        manager.getMaterialManager()->add(new Mortal<KzConcrete>(script, "material", "C", 2500.0, 25.0));
-        auto *loadcase = new Mortal<SysBase::Loadcase>(script, "load case", 1);
-        manager.add(loadcase);
-        // Things in use do not ask for their users, who are dead by then.
-        VarnelPlate *plate = manager.getDatabase()->givePlate(true);
-        plate->giveAreaLoad(static_cast<SysBase::LoadcaseData::Type>(2), loadcase);
-        manager.getDatabase()->giveBeam(true)->setSection(generated, 0);
-        script.take();
-    }
-    EXPECT_EQ(factory.script.take(),
-              (Calls{"~designer", "~calculator", "~converter", "~exchange", "~checker", "~model", "~material",
-                     "~generated section", "~section", "~mesh", "~line", "~load case"}));
-}
-
-TEST(VarnelManager, AModelThatDiesWithItFindsNoCurrentModel) {
-    static const Varnel *found;
-    class Asking : public VarnelDB {
-      public:
-        using VarnelDB::VarnelDB;
-        ~Asking() override { found = getManager()->getDatabase(); }
-    };
-    class AskingFactory : public VarnelFactory {
-        Varnel *giveDatabase() const override { return new Asking(getManager()); }
-    } factory;
-    {
-        VarnelManager manager(&factory);
-        found = manager.getDatabase();
-        EXPECT_NE(found, nullptr);
-    }
-    EXPECT_EQ(found, nullptr);
-}
-
-TEST(VarnelManager, ResetDeletesConverterCalculatorAndDesigner) {
-    MortalFactory factory;
-    VarnelManager manager(&factory);
-    manager.getDataChecker();
-    manager.getExchange();
-    manager.getDesigner();
-    manager.getCalculator();
-    manager.getConverter();
-    factory.script.take();
-    manager.reset();
-    manager.reset();
-    EXPECT_EQ(factory.script.take(), (Calls{"~converter", "~calculator", "~designer"}));
 }
 
 }  // namespace

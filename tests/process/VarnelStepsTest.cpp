@@ -482,6 +482,34 @@ TEST_F(VarnelSteps, StepCounterMakesConverterAndCalculator) {
     }
 }
 
+TEST_F(VarnelSteps, AConverterThatIsMadeForAStepFindsTheFormerOneAndACalculatorTheNewOne) {
+    static std::vector<int> found;
+    class StagedConverter : public recording::Converter {
+      public:
+        using recording::Converter::Converter;
+        void initInstance(VarnelManager *asked) override { found.push_back(asked->getCurrentStep()); }
+    };
+    class StagedCalculator : public recording::Calculator {
+      public:
+        using recording::Calculator::Calculator;
+        void initInstance(VarnelManager *asked) override { found.push_back(asked->getCurrentStep()); }
+    };
+    class Staged : public recording::Factory {
+        VarnelConverter *giveConverter() const override { return new StagedConverter(script); }
+        VarnelCalculator *giveCalculator() const override { return new StagedCalculator(script); }
+    } services;
+    VarnelManager staged(&services);
+    found.clear();
+    staged.setCurrentStep(4);
+    staged.reset();
+    staged.setCurrentStep(7);
+    staged.reset();
+    staged.nextStep();
+    staged.reset();
+    staged.resetStep();
+    EXPECT_EQ(found, (std::vector<int>{0, 4, 4, 7, 7, 5, 5, 5}));
+}
+
 TEST_F(VarnelSteps, LargestStepDoesNotOverflow) {
     manager.setCurrentStep(std::numeric_limits<int>::max());
     manager.setCurrentStep(0);

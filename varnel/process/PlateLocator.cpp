@@ -15,15 +15,20 @@ namespace varnel {
 namespace {
 
 constexpr double reach = 0.0011;  // an outline accepts points up to 0.001 outside of it
+constexpr double farthest = 1e9;  // corners beyond it let rounding reach farther than that
 constexpr std::size_t leafSize = 4;
 constexpr std::size_t nowhere = std::numeric_limits<std::size_t>::max();
 
-/// Only for the house's own outlines is it known that they contain nothing outside of their box.
-bool isBoundedByItsBox(const VarnelArea &area) {
+/// Only of the house's own outlines is it known that they contain nothing outside of their box.
+bool isKnownKind(const VarnelArea &area) {
     const std::type_info &kind = typeid(area);
     return kind == typeid(VarnelArea) || kind == typeid(VarnelAreaPolygon) ||
            kind == typeid(VarnelAreaRectangle);
 }
+
+bool isNear(double coordinate) {
+    return std::fabs(coordinate) <= farthest;
+}  // in this form false for NaN
 
 }  // namespace
 
@@ -33,15 +38,25 @@ PlateLocator::PlateLocator(const std::list<VarnelPlate *> &plates) {
         const VarnelArea *area = plate ? plate->getGeo() : nullptr;
         ++position;
         if (!area) continue;
-        KzVector3D min, max;
-        area->getMinMax(&min, &max);
-        const Box box{min.getX() - reach, min.getY() - reach, max.getX() + reach, max.getY() + reach};
-        const bool finite = std::isfinite(box.minX) && std::isfinite(box.minY) && std::isfinite(box.maxX) &&
-                            std::isfinite(box.maxY);
-        const Entry entry{box, position, plate};
-        (finite && isBoundedByItsBox(*area) ? entries_ : unbounded_).push_back(entry);
+        Entry entry{{}, position, plate};
+        const bool bounded = isKnownKind(*area) && findBox(*area, entry.box);
+        (bounded ? entries_ : unbounded_).push_back(entry);
     }
     if (!entries_.empty()) build(0, entries_.size());
+}
+
+/// False for corners that are not numbers or too far away: the outline may then contain places anywhere.
+bool PlateLocator::findBox(const VarnelArea &area, Box &box) {
+    const KzVector3D &first = area.getCoor(0);
+    box = {first.getX() - reach, first.getY() - reach, first.getX() + reach, first.getY() + reach};
+    for (const KzVector3D &corner : area.getCoordinatesOfPoints()) {
+        if (!isNear(corner.getX()) || !isNear(corner.getY()) || !isNear(corner.getZ())) return false;
+        box.minX = std::min(box.minX, corner.getX() - reach);
+        box.minY = std::min(box.minY, corner.getY() - reach);
+        box.maxX = std::max(box.maxX, corner.getX() + reach);
+        box.maxY = std::max(box.maxY, corner.getY() + reach);
+    }
+    return true;
 }
 
 std::size_t PlateLocator::build(std::size_t first, std::size_t last) {

@@ -7,6 +7,7 @@
 
 #include "varnel/contracts/KzVector3D.h"
 
+class VarnelArea;
 class VarnelPlate;
 
 namespace varnel {
@@ -39,6 +40,7 @@ class PlateLocator {
         std::size_t left, right;  // nodes; 0 for a leaf
     };
 
+    static bool findBox(const VarnelArea &area, Box &box);
     std::size_t build(std::size_t first, std::size_t last);
 
     std::vector<Entry> entries_;

@@ -88,13 +88,10 @@ VarnelManager::VarnelManager(VarnelFactory *factory)
 VarnelManager::~VarnelManager() {
     VarnelDefaultProperties::get()->forget(*this);
     errorList_.clear();
-    delete designer_;
-    delete calculator_;
-    delete converter_;
-    delete exchange_;
-    delete dataChecker_;
+    deleteServices();
     currentSubSystem_ = nullptr;  // models that die have nobody to ask
     varnel::deleteAll(subSystems_);
+    deleteServices();  // those that a dying model has asked for
     materialManager_->removeUser(implementation_.get());
     materialManager_.reset();
     sectionManager_->removeUser(implementation_.get());
@@ -106,6 +103,15 @@ VarnelManager::~VarnelManager() {
     dgnList_.reset();
     diagramManager_.reset();
     implementation_.reset();
+}
+
+/// A service that dies, and a model that dies after it, finds none that is gone.
+void VarnelManager::deleteServices() {
+    delete std::exchange(designer_, nullptr);
+    delete std::exchange(calculator_, nullptr);
+    delete std::exchange(converter_, nullptr);
+    delete std::exchange(exchange_, nullptr);
+    delete std::exchange(dataChecker_, nullptr);
 }
 
 VarnelConverter *VarnelManager::getConverter() {

@@ -239,6 +239,7 @@ class VARNEL_EXPORT VarnelManager : public SysBase::Manager {
   private:
     class Implementation;
 
+    void deleteServices();
     int doConvertModel(VarnelSubSystem *subSystem);
     int doModifyModel(VarnelSubSystem *subSystem);
     int doCalculation(VarnelSubSystem *subSystem);

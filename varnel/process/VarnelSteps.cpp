@@ -246,21 +246,19 @@ bool VarnelManager::input(const char *path) {
 
 void VarnelManager::setCurrentStep(int step) {
     lastStep_ = currentStep_;
+    VarnelConverter *converter = getConverter();  // one that is made here still finds the former step
+    if (converter) converter->setLastStep(lastStep_);
     currentStep_ = step;
-    if (VarnelConverter *converter = getConverter()) {
-        converter->setLastStep(lastStep_);
-        converter->setCurrentStep(step);
-    }
+    if (converter) converter->setCurrentStep(step);
     if (VarnelCalculator *calculator = getCalculator()) calculator->setCurrentStep(step);
 }
 
 void VarnelManager::nextStep() {
+    VarnelConverter *converter = getConverter();
+    if (converter) converter->setLastStep(lastStep_);
     // The last step itself does not move: only setCurrentStep() counts up.
     currentStep_ = lastStep_ < std::numeric_limits<int>::max() ? lastStep_ + 1 : lastStep_;
-    if (VarnelConverter *converter = getConverter()) {
-        converter->setLastStep(lastStep_);
-        converter->setCurrentStep(currentStep_);
-    }
+    if (converter) converter->setCurrentStep(currentStep_);
     if (VarnelCalculator *calculator = getCalculator()) calculator->setCurrentStep(currentStep_);
 }
 
