@@ -110,6 +110,22 @@ TEST(NumberedList, AnObjectThatDiesLeavesTheNumbers) {
     list.clear();
 }
 
+TEST(NumberedList, AnObjectThatIsGoneIsTakenOutUntouched) {
+    NumberedList<Numbered> list;
+    auto objects = fill(list);
+    EXPECT_EQ(list.find(5), objects[4].get());
+    const Numbered *gone = objects[4].get();
+    objects[4].reset();
+    EXPECT_EQ(list.erase(gone), 1U);
+    EXPECT_EQ(list.list().size(), 49U);
+    EXPECT_EQ(list.find(5), nullptr);
+    EXPECT_EQ(list.find(6), objects[5].get());
+    gone = objects[5].get();
+    objects[5].reset();
+    EXPECT_TRUE(list.eraseFirst(gone));
+    EXPECT_EQ(list.find(7), objects[6].get());
+}
+
 TEST(NumberedList, TwoListsThatShareObjectsAnswerIndependently) {
     NumberedList<Numbered> first;
     const auto objects = fill(first);

@@ -298,6 +298,25 @@ TEST(VarnelCopy, AViewNumbersPointsOfItsOwn) {
     EXPECT_EQ(source.findPlateToNumber(1), source.getPlates().front());
 }
 
+TEST(VarnelCopy, AViewLeavesTheMembersOfItsGroupsThatLiveOn) {
+    VarnelDB source(nullptr);
+    fill(source);
+    VarnelObjectGroup *group = source.getObjectGroups().front();
+    group->remove();
+    VarnelPoint *point = source.getPoints().front();
+    VarnelPointBoundary *boundary = source.getPointBoundaries().front();
+    group->add(point);
+    group->add(boundary);
+    {
+        VarnelDB view(source);
+        group->add(view.givePoint(KzVector3D(50, 50, 50)));  // the view's own
+        VarnelSetupHelper helper;
+        view.setupNumbers(helper);
+        view.removePointBoundaries();
+    }
+    EXPECT_EQ(group->getObjects(), (std::list<VarnelObject *>{point, boundary}));
+}
+
 TEST(VarnelCopy, AssigningMakesAViewAndFreesWhatWasThereInTheEnd) {
     VarnelDB source(nullptr);
     fill(source);

@@ -3,7 +3,6 @@
 #include <functional>
 #include <limits>
 #include <memory>
-#include <string>
 #include <typeinfo>
 #include <vector>
 
@@ -30,7 +29,6 @@
 #include "varnel/members/VarnelRefinePolygon.h"
 #include "varnel/model/VarnelDB.h"
 #include "varnel/model/VarnelObjectGroup.h"
-#include "varnel/process/VarnelDatabaseFactory.h"
 #include "varnel/results/VarnelResultSection.h"
 
 namespace {
@@ -289,43 +287,6 @@ TEST(VarnelObjects, NumbersOfNewObjects) {
     EXPECT_EQ(model.giveBeam(true)->getNumber(), std::numeric_limits<int>::max());
 }
 
-TEST(VarnelObjects, APlateThatIsNotAddedHasItsNameRegistered) {
-    VarnelDB model(nullptr);
-    const std::unique_ptr<VarnelPlate> plate(model.givePlate(false));
-    EXPECT_EQ(plate->getParent(), &model);
-    EXPECT_EQ(plate->getNumber(), 1);
-    EXPECT_EQ(plate->getName(), "Platte 1");
-    EXPECT_TRUE(model.hasPlatewithName("Platte 1"));
-    EXPECT_TRUE(model.getPlates().empty());
-}
-
-TEST(VarnelObjects, PlatesAndBeamsAreMadeByTheFactoryAndNamedWithTheirNumber) {
-    class Plate : public VarnelPlate {
-      public:
-        Plate() : VarnelPlate(nullptr) {}
-        void setDefaultName() override {
-            const bool listed = getParent()->contains(this);
-            setName((listed ? "listed " : "new ") + std::to_string(getNumber()));
-        }
-    };
-    class Beam : public VarnelBeam {};
-    class Factory final : public VarnelDatabaseFactory {
-        VarnelPlate *givePlate() override { return new Plate; }
-        VarnelBeam *giveBeam() override { return new Beam; }
-    };
-    class Model : public Varnel {
-      public:
-        Model() : Varnel(nullptr) { setDBaseFactory(std::make_shared<Factory>()); }
-    } model;
-    EXPECT_EQ(model.givePlate(true)->getName(), "new 1");
-    EXPECT_EQ(model.givePlate(true)->getName(), "new 2");
-    EXPECT_TRUE(model.hasPlatewithName("new 2"));
-    EXPECT_NE(dynamic_cast<Beam *>(model.giveBeam(true)), nullptr);
-    const std::unique_ptr<VarnelBeam> free(model.giveBeam(KzVector3D(), KzVector3D(1, 0, 0)));
-    EXPECT_NE(dynamic_cast<Beam *>(free.get()), nullptr);
-    EXPECT_EQ(free->getNumber(), 2);
-}
-
 TEST(VarnelObjects, ABeamBetweenTwoPlacesIsNotAdded) {
     VarnelDB model(nullptr);
     const std::unique_ptr<VarnelBeam> beam(model.giveBeam(KzVector3D(1, 0, 0), KzVector3D(3, 0, 0)));
@@ -455,28 +416,6 @@ TEST(VarnelObjects, ALineBoundaryListsItsData) {
     model.remove(boundary, true);
     EXPECT_TRUE(model.getLineBoundaryDatas().empty());
     EXPECT_TRUE(model.getLineBoundaries().empty());
-}
-
-TEST(VarnelObjects, RenamedPlatesAreKnownByTheirNewNameAlone) {
-    VarnelDB model(nullptr);
-    VarnelPlate *plate = model.givePlate(true);
-    plate->setName("Roof");
-    EXPECT_TRUE(model.hasPlatewithName("Roof"));
-    EXPECT_FALSE(model.hasPlatewithName("Platte 1"));
-    model.updatePlateName("", "Roof", nullptr);
-    EXPECT_FALSE(model.hasPlatewithName("Roof"));
-    EXPECT_FALSE(model.hasPlatewithName("")) << "the entry has no plate";
-}
-
-TEST(VarnelObjects, RemovingAPlateErasesItsNameFromANamesakeToo) {
-    VarnelDB model(nullptr);
-    VarnelPlate *first = model.givePlate(true);
-    VarnelPlate *second = model.givePlate(true);
-    first->setName("Roof");
-    second->setName("Roof");
-    model.remove(first, true);
-    EXPECT_FALSE(model.hasPlatewithName("Roof"));
-    EXPECT_EQ(model.findPlateToName("Roof"), second);
 }
 
 TEST(VarnelObjects, AnOutlineIsNeverRemoved) {

@@ -152,7 +152,10 @@ TEST(VarnelSubSystem, FindsDirectChildrenOnly) {
     EXPECT_EQ(root.getChildren().size(), 2U);
 }
 
-TEST(VarnelSubSystem, FindsAmongManyChildrenAsAPlainWalkDoes) {
+namespace {
+
+/// `keyless`: also nodes without a model and views, among which a list cannot but walk.
+void findAmongManyChildren(bool keyless) {
     const VarnelFactory factory;
     VarnelSubSystem node("top", &factory, nullptr);
     std::list<VarnelSubSystem *> plain;
@@ -168,7 +171,7 @@ TEST(VarnelSubSystem, FindsAmongManyChildrenAsAPlainWalkDoes) {
         VarnelSubSystem *child = walk(name);
         switch (plain.size() < 40 ? 0 : random() % 12) {
             case 0:  // now and then a node without a model, whose name stays empty
-                child = new VarnelSubSystem(name, random() % 40 ? &factory : nullptr, &node);
+                child = new VarnelSubSystem(name, keyless && random() % 40 == 0 ? nullptr : &factory, &node);
                 node.addChild(child);
                 plain.push_back(child);
                 break;
@@ -185,13 +188,21 @@ TEST(VarnelSubSystem, FindsAmongManyChildrenAsAPlainWalkDoes) {
                 if (child && child->getDatabase()) child->getDatabase()->setDescription("b");
                 break;
             case 4:
-                if (child && random() % 200 == 0) *child = *plain.back();  // has the model of another one now
+                if (keyless && child && random() % 200 == 0)
+                    *child = *plain.back();  // has the model of another one now
                 break;
             default:
                 ASSERT_EQ(node.findChild(name, false), child) << name;
         }
     }
     EXPECT_EQ(node.getChildren(), plain);
+}
+
+}  // namespace
+
+TEST(VarnelSubSystem, FindsAmongManyChildrenAsAPlainWalkDoes) {
+    findAmongManyChildren(false);
+    findAmongManyChildren(true);
 }
 
 TEST(VarnelSubSystem, RemovingDetaches) {
@@ -412,6 +423,44 @@ TEST(VarnelSubSystem, CopiesAreViews) {
     const VarnelSubSystem view(node);
     node = view;
     EXPECT_EQ(node.getName(), "a");
+}
+
+TEST(VarnelSubSystem, AViewMayBeAssignedAfterItsNodeDied) {
+    const VarnelFactory factory;
+    auto node = std::make_unique<VarnelSubSystem>("a", &factory, nullptr);
+    const VarnelSubSystem other("b", &factory, nullptr);
+    VarnelSubSystem view(*node);
+    node.reset();
+    view = other;
+    EXPECT_EQ(view.getName(), "b");
+}
+
+TEST(VarnelSubSystem, AmongManyChildrenAViewIsFoundByTheNameThatItHasNow) {
+    const VarnelFactory factory;
+    VarnelSubSystem node("", &factory, nullptr);
+    for (int i = 0; i < 40; ++i) node.addChild(new VarnelSubSystem("c" + std::to_string(i), &factory, &node));
+    const VarnelSubSystem other("b", &factory, nullptr);
+    VarnelSubSystem *child = node.findChild("c20", false);
+    *child = other;
+    EXPECT_EQ(node.findChild("c20", false), nullptr);
+    EXPECT_EQ(node.findChild("b", false), child);
+    other.getDatabase()->setDescription("d");
+    EXPECT_EQ(node.findChild("d", false), child);
+    EXPECT_EQ(node.removeChild(child, false), 1);
+    delete child;
+    EXPECT_EQ(node.findChild("d", false), nullptr);
+    EXPECT_EQ(node.findChild("c21", false)->getName(), "c21");
+}
+
+TEST(VarnelSubSystem, AmongManyChildrenOneThatTheHostDeletedCanBeTakenOut) {
+    const VarnelFactory factory;
+    VarnelSubSystem node("", &factory, nullptr);
+    for (int i = 0; i < 40; ++i) node.addChild(new VarnelSubSystem("c" + std::to_string(i), &factory, &node));
+    VarnelSubSystem *child = node.findChild("c20", false);
+    delete child;
+    EXPECT_EQ(node.removeChild(child, false), 1);
+    EXPECT_EQ(node.findChild("c20", false), nullptr);
+    EXPECT_NE(node.findChild("c21", false), nullptr);
 }
 
 TEST(VarnelSubSystem, HasNoVirtualOperationButTheDestructor) {

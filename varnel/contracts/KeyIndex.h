@@ -26,7 +26,7 @@ class IndexedKey {
         return *this;
     }
     ~IndexedKey() {
-        if (index_) index_->leave(*this);
+        if (index_) index_->lose(*this);
     }
 
     const Key &get() const noexcept { return value_; }
@@ -70,12 +70,19 @@ class KeyIndex {
         key.place_ = next_++;
         return true;
     }
-    /// Called by the key of an object that leaves its list or dies; others are ignored.
+    /// For an object that leaves its list; keys of other objects are ignored.
     void leave(const IndexedKey<Key> &key) {
         if (key.index_ != this) return;
         entries_.erase(Filing(key.value_, key.place_));
         key.index_ = nullptr;
     }
+    /// Called by a key of this index that dies.
+    void lose(const IndexedKey<Key> &key) {
+        leave(key);
+        hasLost_ = true;
+    }
+    /// Whether an object died before it left its list, which still names it.
+    bool hasLost() const { return hasLost_; }
     /// Called by a key of this index before its value changes.
     void refile(const IndexedKey<Key> &key, const Key &value) {
         if (value == key.value_) return;
@@ -95,7 +102,7 @@ class KeyIndex {
         entries_.clear();
         next_ = 0;
         refiled_ = 0;
-        complete_ = false;
+        complete_ = hasLost_ = false;
     }
 
     /// The object with this key that was entered first, or null.
@@ -121,6 +128,7 @@ class KeyIndex {
     std::uint32_t next_ = 0;
     mutable std::size_t refiled_ = 0;  // since the last question
     bool complete_ = false;
+    bool hasLost_ = false;
 };
 
 }  // namespace varnel

@@ -115,6 +115,7 @@ class KeyedList : public PointerList<T> {
         indexable_ = false;
     }
     void leave(const T *object) {
+        if (index_.hasLost()) forgetKeys();  // this one, too, may be gone and must not be touched
         if (index_.isComplete() && object && By::field(*object)) index_.leave(*By::field(*object));
         indexable_ = true;
     }

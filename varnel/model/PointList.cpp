@@ -29,6 +29,7 @@ PointList &PointList::operator=(const PointList &other) {
 void PointList::clear() {
     forgetTable();
     tabulable_ = true;
+    expected_ = 0;
     releaseAll(points_);
 }
 

@@ -251,11 +251,14 @@ void Varnel::removeSettings() {
 }
 
 void Varnel::removePointBoundaries() {
-    const auto &dying = pointBoundaries_.list();
-    const std::unordered_set<const VarnelObject *> objects(dying.begin(), dying.end());
-    for (VarnelObjectGroup *group : objectGroups_.list()) {
-        if (!group) continue;
-        group->update([&objects](VarnelObject *&member) { return !member || objects.count(member) == 0; });
+    if (!view_) {  // a view's boundaries live on, so they stay in the groups that it shares
+        const auto &dying = pointBoundaries_.list();
+        const std::unordered_set<const VarnelObject *> objects(dying.begin(), dying.end());
+        for (VarnelObjectGroup *group : objectGroups_.list()) {
+            if (!group) continue;
+            group->update(
+                [&objects](VarnelObject *&member) { return !member || objects.count(member) == 0; });
+        }
     }
     dispose(pointBoundaries_);
 }

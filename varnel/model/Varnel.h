@@ -250,7 +250,9 @@ class VARNEL_EXPORT Varnel {
     void removeFromConstructionStage(VarnelPlate *plate);
     /// Results of plates and beams; object groups keep theirs.
     void removeResults();
+    /// Deletes the design data; marks no change.
     void removeSettings();
+    /// Deletes the point boundaries, which leave their groups; marks no change, of the groups neither.
     void removePointBoundaries();
 
     // Counting: lengths of the lists.

@@ -36,15 +36,17 @@ int raised(int &counter) {
 
 /// System points that are members of groups. They are kept alive while the points are made anew; at its end,
 /// also when an exception ends the run, each gives its place in the group to the new point at its
-/// coordinates, or leaves the group.
+/// coordinates, or leaves the group. A view leaves alone what lives on in the model that it shares the groups
+/// with.
 class GroupedPoints {
   public:
-    GroupedPoints(const std::list<VarnelObjectGroup *> &groups, varnel::PointList &points)
+    GroupedPoints(const std::list<VarnelObjectGroup *> &groups, varnel::PointList &points, bool view)
         : groups_(groups), points_(points) {
         points.expect(points.list().size());
         kept_.swap(points);
         if (groups.empty()) kept_.clear();
-        for (VarnelPoint *point : kept_.list()) former_.emplace(point, point);
+        for (VarnelPoint *point : kept_.list())
+            if (!view || point->owners() == 1) former_.emplace(point, point);
     }
     GroupedPoints(const GroupedPoints &) = delete;
     GroupedPoints &operator=(const GroupedPoints &) = delete;
@@ -227,7 +229,7 @@ void Varnel::Numbering::numbersOfLoadDistributionAreas() {
 }
 
 void Varnel::setupNumbers(VarnelSetupHelper &helper) {
-    const GroupedPoints grouped(objectGroups_.list(), points_);
+    const GroupedPoints grouped(objectGroups_.list(), points_, view_);
     Numbering numbering(*this, helper);
     numbering.plates();
     numbering.loadDistributionAreas();

@@ -48,11 +48,12 @@ VarnelPoint *Varnel::givePoint(const KzVector3D &coordinates) {
 
 VarnelPlate *Varnel::givePlate(bool add) {
     if (!dBaseFactory_) return nullptr;
-    VarnelPlate *plate = dBaseFactory_->givePlate();
-    if (!plate) return nullptr;
-    plate->setParent(this);
-    plate->setNumber(plates_.nextNumber());
-    plate->setDefaultName();  // registers the name, meant also for a plate that is not added
+    std::unique_ptr<VarnelPlate> made(dBaseFactory_->givePlate());
+    if (!made) return nullptr;
+    made->setParent(this);
+    made->setNumber(plates_.nextNumber());
+    made->setDefaultName();  // registers the name, meant also for a plate that is not added
+    VarnelPlate *plate = made.release();
     if (add) this->add(plate);
     return plate;
 }

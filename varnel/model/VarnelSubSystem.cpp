@@ -33,8 +33,8 @@ VarnelSubSystem::VarnelSubSystem(const VarnelSubSystem &other)
 
 VarnelSubSystem &VarnelSubSystem::operator=(const VarnelSubSystem &other) {
     if (this == &other) return *this;
-    if (database_) database_->indexedDescription().spoilIndex();  // the name is another model's from now on
     if (!view_) {
+        if (database_) database_->indexedDescription().spoilIndex();  // the name becomes another model's
         former_ = std::make_unique<VarnelSubSystem>(std::string(), nullptr, nullptr);
         former_->constructionStages_.swap(constructionStages_);
         former_->children_.swap(children_);
@@ -101,7 +101,7 @@ void VarnelSubSystem::setName(const std::string &name) {
 }
 
 const varnel::IndexedKey<std::string> *VarnelSubSystem::indexedName() const {
-    return database_ ? &database_->indexedDescription() : nullptr;
+    return database_ && !view_ ? &database_->indexedDescription() : nullptr;
 }
 
 VarnelSubSystem *VarnelSubSystem::clone(const VarnelFactory *factory) const {

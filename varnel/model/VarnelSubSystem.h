@@ -42,7 +42,8 @@ class VARNEL_EXPORT VarnelSubSystem {
 
     const std::string &getName() const;
     void setName(const std::string &name);
-    /// For the list that finds this node by its name; null without a model.
+    /// For the list that finds this node by its name; null without a model, and for a view, since its model
+    /// may die first.
     const varnel::IndexedKey<std::string> *indexedName() const;
 
     /// A new node of this name and parent with a deep copy of the model. Frame, stages and children are not
