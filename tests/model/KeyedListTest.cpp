@@ -110,22 +110,6 @@ TEST(NumberedList, AnObjectThatDiesLeavesTheNumbers) {
     list.clear();
 }
 
-TEST(NumberedList, AnObjectThatIsGoneIsTakenOutUntouched) {
-    NumberedList<Numbered> list;
-    auto objects = fill(list);
-    EXPECT_EQ(list.find(5), objects[4].get());
-    const Numbered *gone = objects[4].get();
-    objects[4].reset();
-    EXPECT_EQ(list.erase(gone), 1U);
-    EXPECT_EQ(list.list().size(), 49U);
-    EXPECT_EQ(list.find(5), nullptr);
-    EXPECT_EQ(list.find(6), objects[5].get());
-    gone = objects[5].get();
-    objects[5].reset();
-    EXPECT_TRUE(list.eraseFirst(gone));
-    EXPECT_EQ(list.find(7), objects[6].get());
-}
-
 TEST(NumberedList, TwoListsThatShareObjectsAnswerIndependently) {
     NumberedList<Numbered> first;
     const auto objects = fill(first);
@@ -244,4 +228,24 @@ TEST(KeyedListOfNames, FollowsNamesThatAreSetOnTheObjects) {
     EXPECT_TRUE(list.eraseFirst(groups[7].get()));
     EXPECT_FALSE(list.eraseFirst(groups[7].get()));
     EXPECT_EQ(list.find("roof"), nullptr);
+}
+
+TEST(KeyedListOfNames, AnObjectThatIsGoneIsTakenOutUntouched) {
+    varnel::NamedObjects<VarnelObjectGroup> list;
+    std::vector<std::unique_ptr<VarnelObjectGroup>> groups;
+    for (int i = 0; i < 50; ++i) {
+        groups.push_back(std::make_unique<VarnelObjectGroup>(std::to_string(i)));
+        list.append(groups.back().get());
+    }
+    EXPECT_EQ(list.find("4"), groups[4].get());
+    const VarnelObjectGroup *gone = groups[4].get();
+    groups[4].reset();
+    EXPECT_EQ(list.erase(gone), 1U);
+    EXPECT_EQ(list.list().size(), 49U);
+    EXPECT_EQ(list.find("4"), nullptr);
+    EXPECT_EQ(list.find("5"), groups[5].get());
+    gone = groups[5].get();
+    groups[5].reset();
+    EXPECT_TRUE(list.eraseFirst(gone));
+    EXPECT_EQ(list.find("6"), groups[6].get());
 }
