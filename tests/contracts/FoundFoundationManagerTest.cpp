@@ -218,7 +218,7 @@ TEST(FoundationManager, LookUpsAgreeWithThePlainWalk) {
         return values[random() % 4];
     };
     FoundationManager manager;
-    for (int step = 0; step < 3000; ++step) {
+    for (int step = 0; step < 100000; ++step) {
         const KzVector3D line(value(), value(), 0.0);
         const auto &all = manager.getFoundations();
         const auto action = random() % 10;

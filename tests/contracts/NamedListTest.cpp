@@ -121,7 +121,7 @@ TEST(NamedList, LookUpsAgreeWithThePlainWalk) {
     std::mt19937 random(3);
     const auto below = [&random](std::size_t limit) { return random() % limit; };
     List list;
-    for (int step = 0; step < 4000; ++step) {
+    for (int step = 0; step < 100000; ++step) {
         const std::string name = std::to_string(below(6));
         const auto action = below(10);
         if (action < 4 || list.items().empty()) {

@@ -275,10 +275,10 @@ TEST(Manager, LookUpsAgreeWithThePlainWalk) {
     const auto below = [&random](int limit) { return static_cast<int>(random() % unsigned(limit)); };
     Manager manager;
     std::vector<Loadcase *> cases;
-    for (int step = 0; step < 4000; ++step) {
+    for (int step = 0; step < 100000; ++step) {
         const int action = below(10);
         const std::string name = "case " + std::to_string(below(8));
-        if (action < 4 || cases.empty()) {
+        if (cases.empty() || (action < 4 && cases.size() < 60)) {
             cases.push_back(new Loadcase(below(12)));
             if (action < 2) cases.back()->setName(name);
             manager.add(cases.back());

@@ -94,7 +94,7 @@ TEST(BoundaryListing, AgreesWithPlainListsOverManySteps) {
     std::mt19937 random(11);
     std::vector<std::unique_ptr<VarnelLineBoundaryData>> records(12);
     BoundaryList entries[2], expected[2];
-    for (int step = 0; step < 3000; ++step) {
+    for (int step = 0; step < 100000; ++step) {
         auto &record = records[random() % records.size()];
         const std::size_t which = random() % 2;
         switch (random() % 8) {

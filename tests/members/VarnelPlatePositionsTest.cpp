@@ -122,7 +122,7 @@ TEST(VarnelPlatePositions, AreFoundAsByAPlainWalk) {
         return KzVector3D(x, static_cast<double>(random() % 4), random() % 2 == 0 ? 0.0 : -0.0);
     };
     std::vector<VarnelPlatePosition *> all;
-    for (int step = 0; step < 4000; ++step) {
+    for (int step = 0; step < 100000; ++step) {
         const KzVector3D p = place();
         switch (random() % 20) {
             case 0:

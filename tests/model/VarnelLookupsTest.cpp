@@ -281,7 +281,7 @@ TEST(VarnelLookups, AnswersAsPlainWalksDoUnderRandomOperations) {
         if (model.getBeams().empty()) return nullptr;
         return *std::next(model.getBeams().begin(), static_cast<long>(random() % model.getBeams().size()));
     };
-    for (int step = 0; step < 30000; ++step) {
+    for (int step = 0; step < 100000; ++step) {
         const int number = static_cast<int>(random() % 100);
         switch (random() % 7) {
             case 0:

@@ -265,7 +265,7 @@ TEST(VarnelMerging, ALoadThatALineLoadStandsOnMovesItForTheNextOnes) {
 }
 
 TEST(VarnelMerging, MovesAsPlainWalksDo) {
-    for (unsigned seed = 0; seed < 60; ++seed) {
+    for (unsigned seed = 0; seed < 200; ++seed) {
         SCOPED_TRACE(seed);
         VarnelDB model(nullptr);
         VarnelDB plain(nullptr);

@@ -324,7 +324,7 @@ TEST(VarnelNumbering, NamelessLineBoundariesGetTheLowestFreeNames) {
 TEST(VarnelNumbering, NamesAreThoseThatANamesManagerProposes) {
     const ProcessDefaults defaults;
     VarnelDefaultProperties::get()->setLBData(VarnelLineBoundaryData(0, "W"));
-    for (unsigned seed = 0; seed < 20; ++seed) {
+    for (unsigned seed = 0; seed < 200; ++seed) {
         SCOPED_TRACE(seed);
         std::mt19937 random(seed);
         VarnelDB model(nullptr);

@@ -137,7 +137,7 @@ TEST(VarnelReferences, ABoundaryThatDiesLeavesNoReference) {
 }
 
 TEST(VarnelReferences, AreThoseOfThePlainWalk) {
-    for (unsigned seed = 0; seed < 40; ++seed) {
+    for (unsigned seed = 0; seed < 400; ++seed) {
         SCOPED_TRACE(seed);
         std::mt19937 random(seed);
         VarnelDB model(nullptr);

@@ -103,7 +103,7 @@ TEST(VarnelObjectGroupResultState, AnswersAsAPlainWalkDoes) {
     const auto place = [&] { return KzVector3D(coordinate(random), 0.1 * coordinate(random), -0.0); };
     std::vector<std::unique_ptr<VarnelObjectGroupResultState>> states(2);
     for (auto &state : states) state = std::make_unique<VarnelObjectGroupResultState>();
-    for (int step = 0; step < 4000; ++step) {
+    for (int step = 0; step < 100000; ++step) {
         auto &state = states[static_cast<std::size_t>(step % 2)];
         const int what = hundred(random);
         const auto &records = state->getNodalResults();

@@ -265,7 +265,7 @@ TEST(VarnelConstructionStage, AnswersAsAPlainWalkDoes) {
     std::uniform_int_distribution<int> hundred(0, 99);
     std::vector<std::unique_ptr<VarnelConstructionStage>> stages(2);
     for (auto &stage : stages) stage = std::make_unique<VarnelConstructionStage>();
-    for (int step = 0; step < 4000; ++step) {
+    for (int step = 0; step < 100000; ++step) {
         auto &stage = stages[static_cast<std::size_t>(step % 2)];
         const auto &other = stages[static_cast<std::size_t>((step + 1) % 2)];
         VarnelBeam *beam = &beams[place(random)];
