@@ -236,6 +236,32 @@ TEST_F(DocumentSafety, WriterThatThrowsLeavesTheCursorOnTheRoot) {
     EXPECT_EQ(textOf(tree.getRoot()), textOf(other.find({})));  // nothing of the broken run is left
 }
 
+TEST_F(DocumentSafety, ReaderOfAHostMayChangeTheListThatIsRead) {
+    class Changing : public VarnelExchangeXml {
+      public:
+        VarnelHole *createOneHole(KzXmlData *element, Varnel *model) override {
+            KzXmlData *list = element->getParent();
+            VarnelHole *hole = VarnelExchangeXml::createOneHole(element, model);
+            if (empties)
+                list->flush();
+            else if (list->getChildren().size() < 40)
+                list->makeChild("HOLE");
+            return hole;
+        }
+        bool empties = false;
+    } exchange;
+    exchange.open("SUBSYSTEM");
+    exchange.open("HOLES");
+    KzXmlData *list = exchange.getTree()->getCursor();
+    list->makeChild("HOLE");
+    exchange.get(&document.manager);
+    EXPECT_EQ(document.model().getNumberOfHoles(), 40);
+    exchange.empties = true;
+    exchange.get(&document.manager);
+    EXPECT_EQ(document.model().getNumberOfHoles(), 41);
+    EXPECT_TRUE(list->getChildren().empty());
+}
+
 TEST_F(DocumentSafety, CursorThatAHostLeftAnywhereDoesNotMatter) {
     const std::string before = document.write();
     document.exchange().open("SUBSYSTEM");

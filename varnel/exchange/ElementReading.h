@@ -1,7 +1,7 @@
 #ifndef VARNEL_EXCHANGE_ELEMENTREADING_H
 #define VARNEL_EXCHANGE_ELEMENTREADING_H
 
-#include <string>
+#include <cstddef>
 
 #include "varnel/contracts/KzXmlAttributeData.h"
 #include "varnel/contracts/KzXmlData.h"
@@ -46,11 +46,12 @@ bool ifText(const KzXmlData *element, const char *key, Setter setter) {
     return attribute != nullptr;
 }
 
-/// Calls `reader` for every child of the element; null has none.
+/// Calls `reader` for every child of the element; null has none. A reader of a host may add or remove
+/// children meanwhile: those behind the present one are read as they then stand.
 template <class Reader>
 void eachChild(KzXmlData *element, Reader reader) {
     if (!element) return;
-    for (KzXmlData *child : element->getChildren()) reader(child);
+    for (std::size_t i = 0; i < element->getChildren().size(); ++i) reader(element->getChildren()[i]);
 }
 
 template <class Reader>

@@ -1,7 +1,5 @@
 // Outlines and lines: "AREA", "RECTAN", "POLY", "EDGE", "LINE", "XIS" and the lists "POINTS" and "LINES".
 
-#include <algorithm>
-
 #include "varnel/contracts/KzMath.h"
 #include "varnel/contracts/KzXmlDataUtil.h"
 #include "varnel/exchange/ElementReading.h"

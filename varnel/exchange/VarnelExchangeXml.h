@@ -4,7 +4,6 @@
 #include <list>
 #include <memory>
 #include <string>
-#include <vector>
 
 #include "varnel/exchange/VarnelExchangeXmlBase.h"
 
@@ -19,7 +18,6 @@ class VarnelArea;
 class VarnelAreaLoad;
 class VarnelAreaPolygon;
 class VarnelAreaRectangle;
-class VarnelAttributeArea;
 class VarnelBeam;
 class VarnelBeamState;
 class VarnelBoundaryData;
@@ -43,7 +41,6 @@ class VarnelPlateState;
 class VarnelPointBoundary;
 class VarnelPointLoad;
 class VarnelPolyline;
-class VarnelStateObject;
 class VarnelSubSystem;
 
 namespace SysBase {

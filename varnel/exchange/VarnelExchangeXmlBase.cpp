@@ -1,6 +1,5 @@
 #include "varnel/exchange/VarnelExchangeXmlBase.h"
 
-#include "varnel/contracts/KzXmlAttributeData.h"
 #include "varnel/contracts/KzXmlData.h"
 #include "varnel/contracts/KzXmlDataUtil.h"
 #include "varnel/contracts/KzXmlTree.h"

@@ -4,7 +4,6 @@
 #include <fstream>
 #include <istream>
 #include <memory>
-#include <string>
 
 #include "varnel/contracts/Export.h"
 

@@ -5,12 +5,11 @@
 
 #include "varnel/contracts/Export.h"
 #include "varnel/contracts/KeyIndex.h"
-#include "varnel/contracts/Shared.h"
 
 namespace SysBase {
 
 /// A step of a staged analysis: number (0 at first) and name.
-class VARNEL_EXPORT ConstructionStage : public varnel::Shared {
+class VARNEL_EXPORT ConstructionStage {
   public:
     ConstructionStage() = default;
     ConstructionStage(const ConstructionStage &) = default;
