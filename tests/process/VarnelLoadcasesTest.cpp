@@ -133,9 +133,11 @@ TEST_F(VarnelLoadcases, SetupMakesCasesAnewAndUpdateAllKeepsThem) {
     manager.updateAll();
     EXPECT_NE(named("old"), nullptr);
     SysBase::Loadcase *own = named("Own weight");
+    own->setType(5);
     manager.setCurrentLoadcase(own->getNumber());
     manager.updateAll();
     EXPECT_EQ(named("Own weight"), own);  // found again by its name
+    EXPECT_EQ(own->getType(), 1);
     EXPECT_EQ(manager.getCurrentLoadcase(), own);
     manager.setLoadChanged(false);
     factory.script.take();
@@ -280,6 +282,47 @@ TEST_F(VarnelLoadcases, HostThatMakesNoCasesIsHarmless) {
     EXPECT_EQ(barren.findLoadcase(KzVector3D(1, 1, 0)), nullptr);
 }
 
+TEST_F(VarnelLoadcases, HostThatMakesTheFirstCaseOnlyIsHarmless) {
+    class Sparing : public VarnelManager {
+      public:
+        using VarnelManager::VarnelManager;
+        SysBase::Loadcase *giveLoadcase(int number) override {
+            return number == 1 ? VarnelManager::giveLoadcase(number) : nullptr;
+        }
+    } sparing(&factory);
+    sparing.setLoadcaseAutomation(true);
+    model = sparing.getDatabase();
+    VarnelAreaLoad *ofPlate = addPlate(0, 0, 4, 4)->giveAreaLoad(type(live), nullptr);
+    VarnelPointLoad *own = addLoad(1, 1, dead);
+    sparing.setup();
+    EXPECT_EQ(ofPlate->getLoadcase(), nullptr);
+    ASSERT_EQ(sparing.getLoadcases().size(), 1u);
+    EXPECT_EQ(own->getLoadcase(), sparing.getLoadcases().front());
+}
+
+TEST_F(VarnelLoadcases, MissingObjectsAndModelsArePassedOver) {
+    model->add(static_cast<VarnelPlate *>(nullptr));
+    model->add(static_cast<VarnelPointLoad *>(nullptr));
+    model->add(static_cast<VarnelLineLoad *>(nullptr));
+    model->add(static_cast<VarnelAreaLoad *>(nullptr));
+    model->add(static_cast<VarnelBeamLoad *>(nullptr));
+    VarnelPlate *plate = addPlate(0, 0, 4, 4);
+    plate->setName("P");
+    plate->add(static_cast<VarnelAreaLoad *>(nullptr));
+    VarnelPointLoad *load = addLoad(1, 1, live);
+    manager.setup();
+    EXPECT_NE(named("Load P"), nullptr);
+    const std::unique_ptr<VarnelPointLoad> removed(load);
+    ASSERT_NE(load->getLoadcase(), nullptr);
+    manager.remove(load->getLoadcase(), true);
+    EXPECT_EQ(model->getPointLoads().size(), 1u);
+    VarnelSubSystem bare("bare", nullptr, nullptr);
+    const std::size_t cases = manager.getLoadcases().size();
+    manager.setupLoads(&bare);
+    manager.setupLoads(nullptr);
+    EXPECT_EQ(manager.getLoadcases().size(), cases);
+}
+
 TEST_F(VarnelLoadcases, DyingCasesAreForgottenEverywhereWithoutAChange) {
     manager.setLoadcaseAutomation(false);
     SysBase::Loadcase *loadcase = manager.giveLoadcaseToNumber(1, true);
@@ -290,11 +333,15 @@ TEST_F(VarnelLoadcases, DyingCasesAreForgottenEverywhereWithoutAChange) {
     VarnelPointLoad byDefault(VarnelDefaultProperties::get()->getPointLoad());
     byDefault.setLoadcase(loadcase);
     VarnelDefaultProperties::get()->setPointLoad(byDefault);
+    SysBase::Loadcase *living = manager.giveLoadcaseToNumber(2, true);
+    VarnelPointLoad *ofLiving = child->getDatabase()->givePointLoad();
+    ofLiving->setLoadcase(living);
     manager.setLoadChanged(false);
     manager.setSystemChanged(false);
     manager.remove(loadcase, true);
     EXPECT_EQ(below->getLoadcase(), nullptr);
     EXPECT_EQ(ofPlate->getLoadcase(), nullptr);
+    EXPECT_EQ(ofLiving->getLoadcase(), living);
     EXPECT_EQ(VarnelDefaultProperties::get()->getPointLoad().getLoadcase(), nullptr);
     EXPECT_FALSE(below->getChanged());
 }
