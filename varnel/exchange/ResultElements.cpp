@@ -1,5 +1,10 @@
 // Results below "BEAM", "PBOUND", "LBOUND" and "EDGE": output for other readers, never read back.
 
+#include <list>
+#include <map>
+#include <string>
+#include <vector>
+
 #include "varnel/contracts/KzXmlTree.h"
 #include "varnel/contracts/SysBase/BeamDeformationsLocation.h"
 #include "varnel/contracts/SysBase/BeamResultState.h"
