@@ -71,6 +71,15 @@ TEST_F(VarnelBeamCopy, HasAxisRecordAndDesignResultsOfItsOwn) {
     EXPECT_EQ(0.75, copy.getDesignResults()[0]->getPos());
 }
 
+TEST_F(VarnelBeamCopy, PassesOverMissingDesignResults) {
+    VarnelBeam source;
+    source.add(static_cast<SysBase::BeamDesignLocation *>(nullptr));
+    source.add(new SysBase::BeamDesignLocation(0.25));
+    const VarnelBeam copy(source);
+    ASSERT_EQ(1u, copy.getDesignResults().size());
+    EXPECT_EQ(0.25, copy.getDesignResults()[0]->getPos());
+}
+
 TEST_F(VarnelBeamCopy, LeavesTheRestAsInANewBeam) {
     const VarnelBeam copy(*fullBeam());
     EXPECT_EQ(0, copy.getNumber());

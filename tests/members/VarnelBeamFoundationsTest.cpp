@@ -40,6 +40,8 @@ TEST_F(VarnelBeamFoundations, AreGivenByTheManagerAtBothEnds) {
     EXPECT_EQ(part.getFStart()->getNumber() + 1, part.getFEnd()->getNumber()) << "the start comes first";
     EXPECT_TRUE(beam_.checkUsed(part.getFStart()));
     EXPECT_TRUE(beam_.checkUsed(part.getFEnd()));
+    const Found::Foundation stranger(one_);
+    EXPECT_FALSE(beam_.checkUsed(&stranger));
 }
 
 TEST_F(VarnelBeamFoundations, AtEqualStationsAddUpInOnePart) {

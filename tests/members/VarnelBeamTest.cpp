@@ -341,9 +341,12 @@ TEST(VarnelBeam, KeepsJointsInOrderAndFindsThemExactly) {
 TEST(VarnelBeam, ARemovedJointIsTheCallers) {
     VarnelBeam beam;
     std::unique_ptr<VarnelJoint> joint(new VarnelJoint(0.5, 1));
+    auto *kept = new VarnelJoint(0.5, 1);
     beam.add(joint.get());
+    beam.add(kept);
     beam.remove(joint.get());
-    EXPECT_TRUE(beam.getJoints().empty());
+    EXPECT_EQ(std::list<VarnelJoint *>{kept}, beam.getJoints());
+    EXPECT_EQ(0u, joint->owners());
     EXPECT_EQ(0.5, joint->getPos());
 }
 

@@ -137,10 +137,10 @@ TEST_F(VarnelPlateCopy, SupportsBehindAGapAreNotTaken) {
     VarnelPlate source(nullptr);
     source.setArea(new VarnelAreaRectangle(KzVector3D(), 4.0, 3.0, 0.0));
     source.setBoundary(0, VarnelLineBoundaryData(7, "S0"));
-    source.setBoundary(3, VarnelLineBoundaryData(7, "S3"));
+    source.setBoundary(2, VarnelLineBoundaryData(7, "S2"));
     const VarnelPlate copy(source);
     EXPECT_NE(nullptr, copy.getBoundary(0));
-    EXPECT_EQ(nullptr, copy.getBoundary(3));
+    EXPECT_EQ(nullptr, copy.getBoundary(2));
 }
 
 TEST_F(VarnelPlateCopy, AssigningAPlateToItselfChangesOnlyTheFlag) {

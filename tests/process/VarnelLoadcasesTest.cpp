@@ -144,7 +144,8 @@ TEST_F(VarnelLoadcases, SetupMakesCasesAnewAndUpdateAllKeepsThem) {
     manager.setup();
     EXPECT_EQ(factory.script.take(), (recording::Calls{"converter.setCurrentLoadcase -1"}));
     EXPECT_EQ(named("old"), nullptr);
-    EXPECT_TRUE(manager.loadChanged());
+    EXPECT_TRUE(model->loadChanged());
+    EXPECT_TRUE(manager.hasLoadChanged());
     EXPECT_EQ(manager.getCurrentLoadcase(), nullptr);
 }
 

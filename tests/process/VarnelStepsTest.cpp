@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <limits>
 
+#include "tests/support/CommaLocale.h"
 #include "tests/support/RecordingServices.h"
 #include "tests/support/TemporaryFolder.h"
 #include "varnel/contracts/Found/Foundation.h"
@@ -309,6 +310,17 @@ TEST_F(VarnelSteps, ResultsGoBeforeTheDesignerRunsAndAreLocatedAfterwards) {
     EXPECT_EQ(static_cast<Solver *>(other.getCalculator())->path, "villa.xml");
 }
 
+TEST_F(VarnelSteps, ASubSystemWithoutAModelRunsThroughAllSteps) {
+    VarnelSubSystem bare("bare", nullptr, nullptr);
+    for (VarnelSubSystem *node : {&bare, static_cast<VarnelSubSystem *>(nullptr)}) {
+        factory.script.take();
+        model->setSystemChanged(true);
+        EXPECT_EQ(manager.update(node), 1);
+        EXPECT_EQ(factory.script.take().back(), "designer.exitInstance");
+        EXPECT_EQ(model->getCurrentStatus(), 0);
+    }
+}
+
 TEST_F(VarnelSteps, MissingServicesFail) {
     factory.hasDesigner = false;
     EXPECT_EQ(manager.update(), 2);
@@ -538,6 +550,8 @@ TEST_F(VarnelSteps, PictureNamesPadNumbersToFourDigits) {
     beam.setNumber(12345);
     EXPECT_EQ(manager.givePictureNameBeamPrimaryStress(&beam, 7, false), "str12345-0007");
     EXPECT_EQ(manager.givePictureNameBeamPrimaryStress(nullptr, 7, false), "str0000-0007");
+    const varnel::test::CommaLocale comma;
+    EXPECT_EQ(manager.givePictureNameBeamPrimaryStress(&beam, 12345, false), "str12345-12345");
 }
 
 }  // namespace

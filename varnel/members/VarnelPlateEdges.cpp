@@ -67,7 +67,6 @@ void VarnelPlate::cycle(int k) {
 
 void VarnelPlate::swap() {
     if (getGeo()) getGeo()->swap();
-    if (edges_.size() < 2) return;
     auto front = edges_.begin();
     auto back = edges_.rbegin();
     for (std::size_t i = 0; i < edges_.size() / 2; ++i) std::swap((front++)->second, (back++)->second);
