@@ -141,6 +141,43 @@ TEST(VarnelErrorHandler, StopsWaitingAtTheEndOfTheInput) {
     EXPECT_EQ(console.output(), "a");
 }
 
+TEST(VarnelErrorHandler, MayCheckAgainAndAddMessagesWhileItShowsThem) {
+    class Complaining : public VarnelDataChecker {
+        bool checkSystem(VarnelManager *checked) override {
+            checked->addError("first");
+            checked->addError("second");
+            return false;
+        }
+    };
+    class Busy : public VarnelErrorHandler {
+      public:
+        void display(const std::list<std::string> &messages) const override {
+            for (const std::string &message : messages) {
+                manager->systemOk();
+                manager->addError("meanwhile");
+                shown.push_back(message);
+            }
+        }
+        void display(const std::string &) const override {}
+        VarnelManager *manager = nullptr;
+        mutable std::list<std::string> shown;
+    } busy;
+    class Checking : public VarnelFactory {
+      public:
+        explicit Checking(Busy &handler) : handler_(handler) {}
+        VarnelDataChecker *giveDataChecker() override { return new Complaining; }
+        VarnelErrorHandler *giveErrorHandler() const override { return &handler_; }
+
+      private:
+        Busy &handler_;
+    } checking(busy);
+    VarnelManager other(&checking);
+    busy.manager = &other;
+    EXPECT_EQ(other.update(), 2);
+    EXPECT_EQ(busy.shown, (std::list<std::string>{"first", "second"}));
+    EXPECT_EQ(other.getErrorList(), (std::list<std::string>{"first", "second", "meanwhile"}));
+}
+
 TEST(VarnelMediator, DoesNothing) {
     recording::Factory factory;
     VarnelManager manager(&factory);

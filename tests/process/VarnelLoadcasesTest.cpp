@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <random>
 
 #include "tests/support/RecordingServices.h"
@@ -322,6 +323,23 @@ TEST_F(VarnelLoadcases, MissingObjectsAndModelsArePassedOver) {
     manager.setupLoads(&bare);
     manager.setupLoads(nullptr);
     EXPECT_EQ(manager.getLoadcases().size(), cases);
+}
+
+TEST_F(VarnelLoadcases, DyingCasesAreForgottenInACurrentSubSystemOutsideTheTree) {
+    VarnelSubSystem *child = manager.giveSubSystem("child", manager.getCurrentSubSystem());
+    ASSERT_EQ(manager.removeSubSystem(child, true), 1);
+    const std::unique_ptr<VarnelSubSystem> removed(child);
+    manager.setCurrentSubSystem(child);
+    VarnelBeamLoad *ofBeam = child->getDatabase()->giveBeamLoad();
+    VarnelAreaLoad *ofPlate = child->getDatabase()->givePlate(true)->giveAreaLoad(type(live), nullptr);
+    ofBeam->setLoadcase(manager.giveLoadcaseToName("former"));
+    manager.setup();
+    EXPECT_EQ(ofBeam->getLoadcase(), nullptr);
+    SysBase::Loadcase *loadcase = manager.giveLoadcaseToName("another");
+    ofPlate->setLoadcase(loadcase);
+    manager.remove(loadcase, true);
+    EXPECT_EQ(ofPlate->getLoadcase(), nullptr);
+    manager.setCurrentSubSystem(manager.getSubSystems().front());
 }
 
 TEST_F(VarnelLoadcases, DyingCasesAreForgottenEverywhereWithoutAChange) {

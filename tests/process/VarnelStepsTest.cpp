@@ -437,6 +437,15 @@ TEST_F(VarnelSteps, UpdateAllRunsOneUpdateForEachStageAlsoAfterFailures) {
     EXPECT_EQ(manager.getCurrentStep(), 1);
 }
 
+TEST_F(VarnelSteps, UpdateAllPassesMissingStagesOver) {
+    root->add(static_cast<SysBase::ConstructionStage *>(nullptr));
+    root->giveConstructionStageToNumber(1);
+    factory.script.convert = 2;
+    manager.updateAll();
+    const Calls calls = factory.script.take();
+    EXPECT_EQ(std::count(calls.begin(), calls.end(), "converter.convert System"), 1);
+}
+
 TEST_F(VarnelSteps, UpdateConverterConvertsAfreshAndIgnoresTheAnswer) {
     factory.script.convert = 2;
     VarnelPlate *below = manager.giveSubSystem("child", root)->getDatabase()->givePlate(true);

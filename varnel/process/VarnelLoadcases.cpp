@@ -1,4 +1,5 @@
 #include <limits>
+#include <optional>
 #include <unordered_set>
 #include <vector>
 
@@ -84,8 +85,10 @@ void VarnelManager::forgetLoadcases(const std::list<SysBase::Loadcase *> &dying)
     const auto forget = [&cases](VarnelLoad &load) {
         if (cases.count(load.getLoadcase()) != 0) load.forgetLoadcase(load.getLoadcase());
     };
-    for (VarnelSubSystem *root : subSystems_) {
-        varnel::eachModel(root, [&forget](Varnel &model) {
+    std::unordered_set<VarnelSubSystem *> tops(subSystems_.begin(), subSystems_.end());
+    tops.insert(currentSubSystem_);  // which stays current when it is taken out of the tree
+    for (VarnelSubSystem *top : tops) {
+        varnel::eachModel(top, [&forget](Varnel &model) {
             eachListedLoad(model, forget);
             eachIn(model.getPlates(),
                    [&forget](const VarnelPlate &plate) { eachIn(plate.getAreaLoads(), forget); });
@@ -122,13 +125,18 @@ void VarnelManager::setupLoads(VarnelSubSystem *subSystem) {
 
     // Places are looked for on the plates of the current subsystem, also while another one is set up.
     const Varnel *current = getDatabase();
-    const varnel::PlateLocator locator(current ? current->getPlates() : std::list<VarnelPlate *>());
-    eachFreeLoad(*model, [this, dead, &locator](auto &load) {
+    std::optional<varnel::PlateLocator> locator;  // made for the first live load
+    const auto plateAt = [current, &locator](const KzVector3D &place) -> const VarnelPlate * {
+        if (!current) return nullptr;
+        if (!locator) locator.emplace(current->getPlates());
+        return locator->find(place);
+    };
+    eachFreeLoad(*model, [this, dead, &plateAt](auto &load) {
         if (load.isDead()) {
             load.setLoadcase(dead);
             return;
         }
-        const VarnelPlate *plate = locator.find(load.getCOG());
+        const VarnelPlate *plate = plateAt(load.getCOG());
         load.setLoadcase(plate ? giveLoadcaseToNumber(caseNumber(*plate), true) : nullptr);
     });
     eachFreeLoad(*model, [](auto &load) {

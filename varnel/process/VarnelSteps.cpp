@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <iomanip>
 #include <limits>
 #include <locale>
@@ -102,7 +103,9 @@ int VarnelManager::update() {
 
 int VarnelManager::update(VarnelSubSystem *subSystem) {
     if (!systemOk()) {
-        if (VarnelErrorHandler *handler = getErrorHandler()) handler->display(getErrorList());
+        // A copy is shown, since a handler may add messages or check again while it shows them.
+        if (VarnelErrorHandler *handler = getErrorHandler())
+            handler->display(std::list<std::string>(getErrorList()));
         return failure;
     }
     if (!projectPath_.directory().empty()) Tools::Directory::setCurrent(projectPath_.directory());
@@ -123,8 +126,11 @@ void VarnelManager::updateAll() {
     setup(currentSubSystem_, helper, true, true);  // load cases stay: they are found again by name
     resetStep();
     if (!currentSubSystem_) return;
-    const std::size_t stages = currentSubSystem_->getConstructionStages().size();
-    for (std::size_t stage = 0; stage < stages; ++stage) {
+    // Counted before, since services may change the list meanwhile.
+    const auto &stages = currentSubSystem_->getConstructionStages();
+    auto updates =
+        stages.size() - static_cast<std::size_t>(std::count(stages.begin(), stages.end(), nullptr));
+    for (; updates > 0; --updates) {
         nextStep();
         update(currentSubSystem_);
     }
