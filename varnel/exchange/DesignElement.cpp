@@ -31,6 +31,18 @@ int surfaceOf(const std::string &word) {
     return intended;
 }
 
+/// Two old names stand for variants of B500M; null for any other name.
+KzMaterialReinforcement *findVariant(const std::string &name) {
+    const int variant = name == "B500N" ? 1 : name == "B500H" ? 2 : 0;
+    return variant != 0 ? KzMaterialHandler::get()->findReinforcementVariant("B500M", variant) : nullptr;
+}
+
+/// The steel; throws for null.
+KzMaterialReinforcement *required(KzMaterialReinforcement *steel) {
+    if (!steel) KzMaterialUtil::throwMaterialFoundError();
+    return steel;
+}
+
 struct NumberKey {
     const char *key;
     double (VarnelDesignData::*get)() const;
@@ -81,7 +93,7 @@ void VarnelExchangeXml::readDesignData(KzXmlData *element, VarnelDesignData *dat
     if (!element || !data) return;
     // In old documents the steel stands beside "DESIGN"; the one inside wins.
     if (const KzXmlData *steel = element->findChild("STEEL"))
-        data->setReinforcement(findReinforcement(steel->getData()));
+        data->setReinforcement(required(findReinforcement(steel->getData())));
     KzXmlData *design = element->findChild("DESIGN");
     if (!design) return;
     varnel::ifDouble(design, "THETA",
@@ -96,8 +108,10 @@ void VarnelExchangeXml::readDesignData(KzXmlData *element, VarnelDesignData *dat
             data->setBasicMeshU(manager->getStockMesh(name));
         });
     }
-    if (const KzXmlData *steel = design->findChild("STEEL"))
-        data->setReinforcement(findReinforcementOrVariant(steel->getData()));
+    if (const KzXmlData *child = design->findChild("STEEL")) {
+        KzMaterialReinforcement *steel = findReinforcement(child->getData());
+        data->setReinforcement(required(steel ? steel : findVariant(child->getData())));
+    }
     const KzXmlData *shear = design->findChild("SHEAR");
     if (!shear) return;
     for (const auto &entry : shearKeys)
@@ -106,23 +120,9 @@ void VarnelExchangeXml::readDesignData(KzXmlData *element, VarnelDesignData *dat
         surfaceOf(KzXmlDataUtil::getAttributeString(shear, "JOINT-SURFACE"))));
 }
 
-/// The project's reinforcement, else the stock's. Throws for an unknown name.
+/// The project's reinforcement, else the stock's; null for an unknown name.
 KzMaterialReinforcement *VarnelExchangeXml::findReinforcement(const std::string &name) const {
     KzMaterialReinforcement *steel =
         getMaterialManager() ? getMaterialManager()->findReinforcementToName(name, 0) : nullptr;
-    if (!steel) steel = KzMaterialHandler::get()->findReinforcementToName(name, 0);
-    if (!steel) KzMaterialUtil::throwMaterialFoundError();
-    return steel;
-}
-
-/// As findReinforcement(), but two old names stand for variants of B500M.
-KzMaterialReinforcement *VarnelExchangeXml::findReinforcementOrVariant(const std::string &name) const {
-    KzMaterialManager *project = getMaterialManager();
-    const bool known = (project && project->findReinforcementToName(name, 0)) ||
-                       KzMaterialHandler::get()->findReinforcementToName(name, 0);
-    const int variant = name == "B500N" ? 1 : name == "B500H" ? 2 : 0;
-    if (known || variant == 0) return findReinforcement(name);
-    KzMaterialReinforcement *steel = KzMaterialHandler::get()->findReinforcementVariant("B500M", variant);
-    if (!steel) KzMaterialUtil::throwMaterialFoundError();
-    return steel;
+    return steel ? steel : KzMaterialHandler::get()->findReinforcementToName(name, 0);
 }

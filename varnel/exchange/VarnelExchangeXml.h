@@ -233,6 +233,7 @@ class VARNEL_EXPORT VarnelExchangeXml : public VarnelExchangeXmlBase {
     /// The project's, else the stock's; null for an unknown name.
     KzMaterial *findMaterial(const std::string &name) const;
     KzConcrete *findConcrete(const std::string &name) const;
+    KzMaterialReinforcement *findReinforcement(const std::string &name) const;
     void readLoadcase(KzXmlData *element, VarnelLoad *load);
     VarnelArea *readOutline(KzXmlData *element, Varnel *model);
     void createAttributeArea(KzXmlData *element, Varnel *model);
@@ -242,8 +243,6 @@ class VARNEL_EXPORT VarnelExchangeXml : public VarnelExchangeXmlBase {
     void createObjectState(KzXmlData *element, VarnelConstructionStage *stage, VarnelSubSystem *subSystem);
     template <class State>
     State *readMemberState(State *state, KzXmlData *element);
-    KzMaterialReinforcement *findReinforcement(const std::string &name) const;
-    KzMaterialReinforcement *findReinforcementOrVariant(const std::string &name) const;
     void updateOutlineEdge(VarnelLine *line, std::size_t index);
     void updateEdge(Varnel *model, VarnelPlate *plate, std::size_t index);
     void readPlateMaterial(KzXmlData *element, VarnelPlate *plate);
