@@ -15,6 +15,10 @@ endfunction()
 
 add_library(varnel ${varnel_sources})
 add_library(varnel::varnel ALIAS varnel)
+if(VARNEL_SANITIZE)
+  # The tests spend their time in the library, and instrumented code is slow.
+  target_compile_options(varnel PRIVATE -O1)
+endif()
 varnel_library_settings(varnel)
 set_target_properties(varnel PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}
                                         VERIFY_INTERFACE_HEADER_SETS ON)

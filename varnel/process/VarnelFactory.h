@@ -15,7 +15,8 @@ class VarnelManager;
 
 /// Makes every service of a manager. A host derives from it and overrides what it has to offer; as it stands
 /// it yields a model, an XML exchange, a data checker and an error handler, and no analysis. Everything made
-/// here passes to the caller. The factory is shared by the managers made on it and outlives them.
+/// here passes to the caller. The factory outlives the managers made on it. It makes models for the manager
+/// that was made on it last, so managers that live side by side want a factory each.
 class VARNEL_EXPORT VarnelFactory {
   public:
     VarnelFactory() = default;

@@ -43,7 +43,7 @@ class VARNEL_EXPORT VarnelManager : public SysBase::Manager {
     enum DesignLocation : int {};
 
     /// Makes the resources, the subsystem "System" on the factory, and tells the factory. The factory is
-    /// shared: it outlives the manager.
+    /// shared: it outlives the manager, and serves one living manager at a time.
     explicit VarnelManager(VarnelFactory *factory);
     VarnelManager(const VarnelManager &) = delete;
     VarnelManager &operator=(const VarnelManager &) = delete;
