@@ -2,6 +2,7 @@
 
 #include <climits>
 #include <cmath>
+#include <vector>
 
 #include "tests/support/Document.h"
 #include "varnel/contracts/KzMath.h"
@@ -133,6 +134,21 @@ TEST_F(BoundaryElements, BoundaryTurnedInThePlaneWritesItsAngleAndNoVectors) {
     EXPECT_NEAR(element->findAttribute("ANGLE")->getDouble(), 30.0, 1e-12);
     EXPECT_EQ(element->findChild("LOCSYS-X"), nullptr);
     EXPECT_EQ(element->findChild("LOCSYS-Y"), nullptr);
+}
+
+// To the last bit: other programs compute the same radians from the same text.
+TEST_F(BoundaryElements, AngleIsDividedBeforeItIsMultiplied) {
+    for (int degrees = 1; degrees < 90; ++degrees) {
+        const VarnelPointBoundary *boundary = readPoint("ANGLE=\"" + std::to_string(degrees) + "\"");
+        VarnelPointBoundary turned(KzVector3D(), 0, nullptr);
+        turned.setAngle(degrees / 180.0 * KzMath::Pi, 2);
+        EXPECT_TRUE(boundary->getBase().getVector(0) == turned.getBase().getVector(0)) << degrees;
+        VarnelExchangeXml exchange;
+        exchange.updateOnePointBoundary(nullptr, &turned);
+        EXPECT_EQ(exchange.getTree()->getRoot()->findAttribute("ANGLE")->getDouble(),
+                  turned.getAngle(2) / KzMath::Pi * 180.0)
+            << degrees;
+    }
 }
 
 TEST_F(BoundaryElements, BoundaryWithASpatialFrameWritesTwoVectorsAndNoAngle) {
@@ -310,6 +326,21 @@ TEST_F(BoundaryElements, ReadingStiffnessMarksAChangeAndSpacingDoesNot) {
     }
     EXPECT_DOUBLE_EQ(boundary->getSpacing(), 3.0);
     EXPECT_EQ(boundary->getStiffness()[0], 7.0);
+}
+
+TEST_F(BoundaryElements, MissingPlaceAndDegreesOfFreedomTakeThoseOfASupportAway) {
+    VarnelPointBoundary *boundary = addPoint(4);
+    boundary->setName("column");
+    boundary->setAngle(0.5, 2);
+    boundary->setStiffness({1, 2, 3, 4, 5, 6});
+    document.readSubSystem("<E/>");
+    document.exchange().readOnePointBoundary(document.find({"SUBSYSTEM", "E"}), boundary);
+    EXPECT_EQ(boundary->getDof(), 0);
+    EXPECT_TRUE(boundary->getCoor() == KzVector3D());
+    EXPECT_EQ(boundary->getNumber(), 4);  // all else stays
+    EXPECT_EQ(boundary->getName(), "column");
+    EXPECT_DOUBLE_EQ(boundary->getAngle(2), 0.5);
+    EXPECT_EQ(boundary->getStiffness(), (std::vector<double>{1, 2, 3, 4, 5, 6}));
 }
 
 TEST_F(BoundaryElements, OddNumbersAreReadAsFarAsTheyGo) {

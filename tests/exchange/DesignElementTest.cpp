@@ -163,6 +163,18 @@ TEST_F(DesignElement, AngleIsInDegreesInTheDocument) {
     }
 }
 
+// To the last bit: other programs compute the same radians from the same text.
+TEST_F(DesignElement, AngleIsDividedBeforeItIsMultiplied) {
+    for (int degrees = 1; degrees <= 180; ++degrees) {
+        const VarnelDesignData data = read("<DESIGN THETA=\"" + std::to_string(degrees) + "\"/>");
+        EXPECT_EQ(data.getTheta(), degrees / 180.0 * KzMath::Pi) << degrees;
+        document.exchange().updateDesignData(&data);
+        EXPECT_EQ(document.find({"DESIGN"})->findAttribute("THETA")->getDouble(),
+                  data.getTheta() / KzMath::Pi * 180.0)
+            << degrees;
+    }
+}
+
 TEST_F(DesignElement, AnglesOfShearAreTakenAsTheyStand) {
     EXPECT_DOUBLE_EQ(read("<DESIGN><SHEAR SHEAR-ANGLE=\"45\"/></DESIGN>").getShearAngle(), 45.0);
 }

@@ -280,6 +280,44 @@ TEST_F(PlateElements, SecondElementOfAnEdgeDoesNotReplaceTheFirst) {
     EXPECT_EQ(plate->getEdgeData(0)->getJoint(), 2);
 }
 
+// The degrees of freedom stay with the first one, but joint, width and local flag are set each time.
+TEST_F(PlateElements, SecondElementOfAnEdgeTakesAwayWhatItLacks) {
+    const VarnelPlate *plate =
+        readPlate("", square +
+                          "<BOUNDS><EDGE POS=\"0\" DOF=\"4\" JDOF=\"2\" WIDTH=\"0.3\" LOCAL=\"1\" NAME=\"b\" "
+                          "NUMBER=\"6\">" +
+                          vectorElement("STIFFR", 0, 5, 0) + "</EDGE><EDGE POS=\"0\">" +
+                          vectorElement("STIFFD", 0, 0, 0) + "</EDGE></BOUNDS>");
+    const VarnelLineBoundaryData *boundary = plate->getBoundary(0);
+    EXPECT_EQ(plate->getEdgeData(0)->getJoint(), 0);
+    EXPECT_DOUBLE_EQ(boundary->getWidth(), 0.0);
+    EXPECT_FALSE(boundary->getLocal());
+    EXPECT_EQ(boundary->getDof(), 4);
+    EXPECT_EQ(boundary->getName(), "b");
+    EXPECT_EQ(boundary->getNumber(), 6);
+    EXPECT_DOUBLE_EQ(boundary->getStiffness()[4], 5.0);  // zeros are not set
+}
+
+// A host's load of that type is filled as the others are.
+TEST_F(PlateElements, NameOfAnAreaLoadIsSetThroughTheVirtualOperation) {
+    class Load : public VarnelAreaLoad {
+      public:
+        void setName(const std::string &name) override { heard = name; }
+        std::string heard;
+    };
+    VarnelPlate *plate = addSquare();
+    auto *load = new Load;
+    load->setLcType(SysBase::LoadcaseData::Type(2));
+    plate->add(load);
+    document.readSubSystem("<E><A NAME=\"live\" LC=\"3\"/></E>");
+    document.exchange().createAreaLoadsToPlate(plate, document.find({"SUBSYSTEM", "E"}));
+    EXPECT_EQ(plate->getAreaLoads().size(), 1u);
+    EXPECT_EQ(load->heard, "live");
+    EXPECT_EQ(load->getName(), "live");  // with the other values, which are read as a whole
+    ASSERT_NE(load->getLoadcase(), nullptr);
+    EXPECT_EQ(load->getLoadcase()->getNumber(), 3);
+}
+
 TEST_F(PlateElements, PlateWithoutAnOutlineIsHarmless) {
     const VarnelPlate *plate = readPlate("",
                                          "<BOUNDS><EDGE POS=\"0\" DOF=\"7\" NUMPARTS=\"3\"/></BOUNDS>"
