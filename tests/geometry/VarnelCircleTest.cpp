@@ -63,6 +63,8 @@ TEST(VarnelCircle, TheRadiusIsThatOfTheStartWhereverTheEndLies) {
     EXPECT_FALSE(VarnelCircleInspector::checkInvariant(arc));
     EXPECT_TRUE(VarnelCircleInspector::checkInvariant(quarter()));
     EXPECT_FALSE(VarnelCircleInspector::checkInvariant(VarnelCircle(origin, east, at(90.0, 1.0 + 1e-15))));
+    const KzVector3D centre(5.0, 6.0, 7.0);
+    EXPECT_TRUE(VarnelCircleInspector::checkInvariant(VarnelCircle(centre, centre + east, centre + up)));
 }
 
 TEST(VarnelCircle, RunsFromItsStartToItsEnd) {
@@ -101,6 +103,32 @@ TEST(VarnelCircle, TheNormalTurnsWithTheDirectionAndIsNullForHalfACircle) {
     EXPECT_EQ(KzVector3D(), VarnelCircle(origin, origin, origin).getNormal());
 }
 
+TEST(VarnelCircle, HalfACircleWithRoundedEndsHasNoNormalEither) {
+    const KzVector3D centre(0.1, 0.2, 0.3);
+    for (const double radius : {1e-3, 1.0, 1e3}) {
+        SCOPED_TRACE(radius);
+        const KzVector3D toStart = KzVector3D(0.3, 0.7, -0.9) * radius;
+        const VarnelCircle arc(centre, centre + toStart, centre - toStart);
+        EXPECT_EQ(KzVector3D(), arc.getNormal());
+        EXPECT_TRUE(isNear(arc.getEndVec(), arc.getCoor(1.0), 1e-9 * radius));
+    }
+}
+
+TEST(VarnelCircle, PlacesFromTheStartToTheEndAreOnTheArcAndOthersAreNot) {
+    const VarnelCircle arc = quarter();
+    const struct {
+        double station;
+        int on;
+    } rows[] = {{0.0, 1}, {0.05, 1}, {0.95, 1}, {1.0, 1}, {1.001, 0}, {1.5, 0}};
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.station);
+        const KzVector3D place = row.station == 1.0 ? arc.getEndVec() : at(90.0 * row.station);
+        double xi = -7.0;
+        EXPECT_EQ(row.on, arc.checkPointOn(place, xi));
+        EXPECT_NEAR(row.station, xi, 1e-9);
+    }
+}
+
 TEST(VarnelCircle, APlaceOffTheCircleLeavesTheStationAloneWhateverItsAngle) {
     const VarnelCircle arc = quarter();
     for (const double degrees : {0.0, 45.0, 90.0, 200.0}) {
@@ -119,6 +147,8 @@ TEST(VarnelCircle, APlaceOneTenMillionthOffTheCircleIsOnIt) {
     EXPECT_NEAR(0.5, xi, 1e-6);
     EXPECT_EQ(1, arc.checkPointOn(at(45.0, 1.0 - 0.9e-7), xi));
     EXPECT_EQ(0, arc.checkPointOn(at(45.0, 1.0 + 1.1e-7), xi));
+    const VarnelCircle tiny(origin, 1e-7 * east, 1e-7 * north);
+    EXPECT_EQ(1, tiny.checkPointOn(origin, xi)) << "exactly one ten-millionth off";
 }
 
 TEST(VarnelCircle, APlaceBeforeTheStartCountsAsItsMirrorImage) {
@@ -349,6 +379,21 @@ TEST(VarnelCircle, WithoutAStartPointEveryQuestionIsHarmless) {
     EXPECT_FALSE(arc.hasSamePoints(&arc));
     const VarnelCircle copy(arc);
     EXPECT_EQ(up, copy.getEndVec());
+}
+
+TEST(VarnelCircle, WithoutAStartOrAnEndAnArcHasNoLength) {
+    const KzVector3D centre(5.0, 6.0, 7.0);
+    VarnelCircle arc(centre, centre + east, centre + north);
+    const std::unique_ptr<VarnelPoint> former(arc.getStart());
+    arc.setP1(nullptr);
+    EXPECT_EQ(0.0, arc.getLength());
+    arc.swap();
+    EXPECT_EQ(nullptr, arc.getEnd());
+    EXPECT_EQ(1.0, arc.getRadius());
+    EXPECT_EQ(0.0, arc.getPhi());
+    EXPECT_EQ(0.0, arc.getLength());
+    EXPECT_EQ(KzVector3D(), arc.getNormal());
+    EXPECT_TRUE(isNear(arc.getStartVec(), arc.getCoor(0.5)));
 }
 
 TEST(VarnelCircle, VisitsAsACircle) {

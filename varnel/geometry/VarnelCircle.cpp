@@ -19,6 +19,7 @@ double VarnelCircle::getRadius() const {
 }
 
 KzVector3D VarnelCircle::getNormal() const {
+    if (!start_ || !end_) return KzVector3D();
     const KzVector3D u = getStartVec() - getCenterVec();
     const KzVector3D w = getEndVec() - getCenterVec();
     KzVector3D normal = u.crossProduct(w);
@@ -27,7 +28,7 @@ KzVector3D VarnelCircle::getNormal() const {
 }
 
 double VarnelCircle::getPhi() const {
-    return KzMath::getPhi(getStartVec(), getEndVec(), getCenterVec());
+    return start_ && end_ ? KzMath::getPhi(getStartVec(), getEndVec(), getCenterVec()) : 0.0;
 }
 
 void VarnelCircle::updateMinMax(KzVector3D *min, KzVector3D *max, const KzMatrix44 &matrix) const {

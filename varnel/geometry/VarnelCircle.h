@@ -26,9 +26,9 @@ class VARNEL_EXPORT VarnelCircle : public VarnelLine {
     /// Distance of the start from the centre (m).
     double getRadius() const;
     /// Unit normal (start - centre) x (end - centre): the arc runs right-handed about it. Null for half a
-    /// circle and for coincident ends.
+    /// circle and for coincident or missing ends.
     KzVector3D getNormal() const;
-    /// Opening angle (rad), 0 to pi.
+    /// Opening angle (rad), 0 to pi; 0 if an end is missing.
     double getPhi() const;
 
     using VarnelLine::getVisited;
