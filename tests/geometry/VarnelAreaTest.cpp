@@ -230,10 +230,17 @@ TEST(VarnelArea, IsDegeneratedIfTwoLinesEndOnOnePoint) {
 TEST(VarnelArea, AsksTheVirtualAreaWhetherItIsDegenerated) {
     class Hollow : public VarnelArea {
       public:
-        double getArea() const override { return 0.0; }
+        double getArea() const override { return area; }
+        double area = 0.0;
     } hollow;
+    hollow.area = 1.0;
+    EXPECT_FALSE(hollow.isDegenerated()) << "without lines none of them is zero";
     for (const KzVector3D &corner : {p, q, r, s}) hollow.addVertex(corner);
+    EXPECT_FALSE(hollow.isDegenerated());
+    hollow.area = 0.0;
     EXPECT_TRUE(hollow.isDegenerated());
+    hollow.area = KzVector3D::getTolerance() * KzVector3D::getTolerance();
+    EXPECT_FALSE(hollow.isDegenerated()) << "only below the squared tolerance";
 }
 
 TEST(VarnelArea, MeasuresToTheNearestEdgeByMagnitudeWithItsSign) {

@@ -162,7 +162,11 @@ TEST(VarnelBase, AnAssignmentMarksAChangeWhateverTheSourcesFlag) {
     target = source;
     EXPECT_EQ(frame, target.getMatrix()) << "a frame that is there takes the values";
     expectFrame(*source.getMatrix(), frame);
-    target = VarnelBase();
+    VarnelBase none;
+    none.setChanged(false);
+    target.setChanged(false);
+    target = none;
+    EXPECT_TRUE(target.getChanged());
     EXPECT_EQ(nullptr, target.getMatrix());
 }
 

@@ -164,11 +164,13 @@ TEST(VarnelStraight, WithoutAStartPointEveryQuestionIsHarmless) {
     line.updateMinMax(&min, &max, KzMatrix44::getId());
     EXPECT_EQ(up, min);
     EXPECT_EQ(up, max);
-    double value = 5.0;
-    EXPECT_FALSE(line.distance(east, north, KzMatrix44::getId(), value));
-    EXPECT_EQ(5.0, value);
-    EXPECT_EQ(0, line.checkPointOn(east, value));
     const VarnelStraight whole(origin, up);
+    const KzVector3D besideTheMiddle(1.0, 0.0, 0.5);
+    double value = 5.0;
+    EXPECT_FALSE(line.distance(besideTheMiddle, -east, KzMatrix44::getId(), value));
+    EXPECT_EQ(5.0, value);
+    EXPECT_TRUE(whole.distance(besideTheMiddle, -east, KzMatrix44::getId(), value));
+    EXPECT_EQ(0, line.checkPointOn(east, value));
     EXPECT_EQ(0, line == whole);
     EXPECT_EQ(0, whole == line);
     EXPECT_FALSE(line.hasSamePoints(&whole));
@@ -181,7 +183,8 @@ TEST(VarnelStraight, WithoutAStartPointEveryQuestionIsHarmless) {
     EXPECT_EQ(nullptr, line.getEnd());
     EXPECT_EQ(KzVector3D(), line.getEndVec());
     EXPECT_EQ(0.0, line.getLength());
-    EXPECT_FALSE(line.distance(east, north, KzMatrix44::getId(), value));
+    EXPECT_EQ(KzVector3D(), line.getDir());
+    EXPECT_FALSE(line.distance(besideTheMiddle, -east, KzMatrix44::getId(), value));
 }
 
 TEST(VarnelStraight, TheStationOfAMiddlePointIsOneHalfWhateverTheLength) {
@@ -209,6 +212,7 @@ TEST(VarnelStraight, APlaceBeyondTheEndIsNotOnTheLineButHasAStation) {
     double xi = -1.0;
     EXPECT_EQ(0, line.checkPointOn(KzVector3D(3.0, 0.0, 0.0), xi));
     EXPECT_EQ(1.5, xi);
+    EXPECT_EQ(0, line.checkPointOn(KzVector3D(2.0 + 1e-9, 0.0, 0.0), xi));
     EXPECT_EQ(1, line.checkPointOn(KzVector3D(2.0, 0.0, 0.0), xi));
     EXPECT_EQ(1.0, xi);
     EXPECT_EQ(1, line.checkPointOn(origin, xi));

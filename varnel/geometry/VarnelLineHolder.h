@@ -49,7 +49,7 @@ class VARNEL_EXPORT VarnelLineHolder : public VarnelObject, public varnel::Share
     /// Frame of the chain: x along the first line, y towards the first point off it, origin in point 0.
     /// Identity for up to two lines.
     KzMatrix44 getBase() const;
-    /// Unit normal, opposite to the z axis of getBase(); null for a chain along one straight.
+    /// Unit normal, opposite to the z axis of getBase(); null for up to two lines and along one straight.
     KzVector3D getNormal() const;
     /// 1 if both chains, taken as rings, have equal lines in the same order, whatever their first line and
     /// direction.
