@@ -111,6 +111,11 @@ TEST(VarnelCircle, HalfACircleWithRoundedEndsHasNoNormalEither) {
         const VarnelCircle arc(centre, centre + toStart, centre - toStart);
         EXPECT_EQ(KzVector3D(), arc.getNormal());
         EXPECT_TRUE(isNear(arc.getEndVec(), arc.getCoor(1.0), 1e-9 * radius));
+        const auto almostHalf = [radius](double sine) {
+            return VarnelCircle(origin, radius * east, radius * (west + sine * north));
+        };
+        EXPECT_EQ(KzVector3D(), almostHalf(0.99e-12).getNormal());
+        EXPECT_EQ(up, almostHalf(1.01e-12).getNormal());
     }
 }
 
@@ -387,6 +392,8 @@ TEST(VarnelCircle, WithoutAStartOrAnEndAnArcHasNoLength) {
     const std::unique_ptr<VarnelPoint> former(arc.getStart());
     arc.setP1(nullptr);
     EXPECT_EQ(0.0, arc.getLength());
+    EXPECT_EQ(0.0, arc.getPhi());
+    EXPECT_EQ(KzVector3D(), arc.getNormal());
     arc.swap();
     EXPECT_EQ(nullptr, arc.getEnd());
     EXPECT_EQ(1.0, arc.getRadius());
