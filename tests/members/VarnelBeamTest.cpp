@@ -256,6 +256,14 @@ TEST(VarnelBeam, MovesTheEndsOfALine) {
     EXPECT_EQ(5.0, beam.getLength());
 }
 
+TEST(VarnelBeam, TurnsRoundWhenItsOwnEndsAreGivenToIt) {
+    VarnelBeam beam;
+    beam.setLine(KzVector3D(1.0, 2.0, 3.0), KzVector3D(4.0, 6.0, 3.0), 0);
+    beam.setLine(beam.getEndVec(), beam.getStartVec(), 0);
+    EXPECT_EQ(KzVector3D(4.0, 6.0, 3.0), beam.getStartVec());
+    EXPECT_EQ(KzVector3D(1.0, 2.0, 3.0), beam.getEndVec());
+}
+
 TEST(VarnelBeam, MovesALineInTheMiddleOfAKinkedAxis) {
     VarnelBeam beam;
     beam.setGeo(chain({KzVector3D(), KzVector3D(1.0, 0.0, 0.0), KzVector3D(2.0, 0.0, 0.0)}));
@@ -431,6 +439,25 @@ TEST(VarnelBeam, DyingLetsGoOfAGapAtBothEndsBeforeItsAxis) {
         beam.setRightGap(gap);
     }
     EXPECT_EQ("JGA", notes);
+}
+
+TEST(VarnelBeam, DyingShowsNoDeadStatesToAResultThatAsks) {
+    class Asking : public SysBase::BeamDesignLocation {
+      public:
+        Asking(const VarnelBeam &beam, bool &seen) : beam_(beam), seen_(seen) {}
+        ~Asking() override { seen_ = beam_.findResultState(1) != nullptr; }
+
+      private:
+        const VarnelBeam &beam_;
+        bool &seen_;
+    };
+    bool seen = true;
+    {
+        VarnelBeam beam;
+        beam.giveResultState(1);
+        beam.add(new Asking(beam, seen));
+    }
+    EXPECT_FALSE(seen);
 }
 
 TEST(VarnelBeam, WithoutGapsRemovesItsOwnResults) {

@@ -399,6 +399,25 @@ TEST(VarnelPlate, DiesFromItsEdgesOverItsLoadsToItsOutline) {
     EXPECT_EQ("ELO", notes);
 }
 
+TEST(VarnelPlate, DyingShowsNoDeadEdgesToALoadThatAsks) {
+    class Asking : public VarnelAreaLoad {
+      public:
+        Asking(const VarnelPlate &plate, bool &seen) : plate_(plate), seen_(seen) {}
+        ~Asking() override { seen_ = plate_.getEdgeData(0) != nullptr; }
+
+      private:
+        const VarnelPlate &plate_;
+        bool &seen_;
+    };
+    bool seen = true;
+    {
+        const auto plate = quietPlate();
+        ASSERT_NE(nullptr, plate->getEdgeData(0));
+        plate->add(new Asking(*plate, seen));
+    }
+    EXPECT_FALSE(seen);
+}
+
 TEST(VarnelPlate, AppendsItsVirtualOperationsToThoseOfAnOutlinedObject) {
     EXPECT_EQ(7, virtualSlot<bool() const>(&VarnelPlate::getChanged));
     EXPECT_EQ(8, virtualSlot(&VarnelPlate::setChanged));

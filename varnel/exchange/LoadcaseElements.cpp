@@ -14,7 +14,6 @@ void VarnelExchangeXml::updateLoadcases(VarnelManager *manager) {
         if (const SysBase::Loadcase *current = manager->getCurrentLoadcase())
             setAttribute("CURRENT", current->getNumber());
         for (SysBase::Loadcase *loadcase : manager->getLoadcases()) {
-            if (!loadcase) continue;
             openToAttribute("LOADCASE", "NUMBER", loadcase->getNumber());
             updateOneLoadcase(manager, loadcase);
             close();

@@ -95,10 +95,8 @@ void VarnelExchangeXml::updateBeamDisplacements(VarnelBeam *beam, SysBase::Loadc
     if (!beam || !loadcase) return;
     open("DISPS");
     flush();
-    for (const SysBase::BeamResultState *state : beam->getResultStates()) {
-        if (!state || state->getStateNumber() != loadcase->getNumber()) continue;
+    if (const SysBase::BeamResultState *state = beam->findResultState(loadcase->getNumber())) {
         for (const SysBase::BeamDeformationsLocation *location : state->getDeformationsLocations()) {
-            if (!location) continue;
             openToAttribute("DISP", "POS", location->getPos());
             const KzVector3D &displacement = location->getDisplacement();
             setAttribute("DX", displacement.getX());
@@ -114,10 +112,8 @@ void VarnelExchangeXml::updateBeamStresses(VarnelBeam *beam, SysBase::Loadcase *
     if (!beam || !loadcase) return;
     open("STRESS");
     flush();
-    for (const SysBase::BeamResultState *state : beam->getResultStates()) {
-        if (!state || state->getStateNumber() != loadcase->getNumber()) continue;
+    if (const SysBase::BeamResultState *state = beam->findResultState(loadcase->getNumber())) {
         for (const SysBase::BeamStressResultantsLocation *location : state->getStressResultantsLocations()) {
-            if (!location) continue;
             openToAttribute("STRESS", "POS", location->getPos());  // children bear the name of their list
             setAttribute("MY", location->getMy());
             close();

@@ -52,9 +52,10 @@ KzMatrix44 frameOf(const KzVector3D &x, const KzVector3D &y) {
 /// A beam whose axis is horizontal by less than this share counts as vertical.
 constexpr double verticalLimit = 0.001;
 
+/// In this form false for NaN.
 bool isStation(double pos) {
     return 0.0 <= pos && pos <= 1.0;
-}  // in this form false for NaN
+}
 
 /// Results that another owner of the gap still sees stay with it.
 void removeUnsharedResults(const varnel::Held<VarnelGapControl> &gap) {
@@ -99,6 +100,7 @@ VarnelBeam &VarnelBeam::operator=(const VarnelBeam &other) {
 
 // Explicit, since the members' own order would free the gaps last: hosts see results, joints and axis die.
 VarnelBeam::~VarnelBeam() {
+    statesByNumber_.clear();
     varnel::releaseAll(resultStates_);
     removeUnsharedResults(leftGap_);
     removeUnsharedResults(rightGap_);
@@ -154,8 +156,9 @@ const KzVector3D &VarnelBeam::getEndVec() const {
 void VarnelBeam::setLine(const KzVector3D &start, const KzVector3D &end, int index) {
     if (!geometry_ || index < 0) return;
     const auto i = static_cast<std::size_t>(index);
+    const KzVector3D newEnd = end;  // the argument may be the very place that moves first
     geometry_->setCoor(i, start);
-    geometry_->setCoor(i + 1, end);
+    geometry_->setCoor(i + 1, newEnd);
 }
 
 double VarnelBeam::getLength() const {

@@ -1,5 +1,7 @@
 #include "varnel/members/VarnelPlate.h"
 
+#include <utility>
+
 #include "varnel/contracts/KzConcrete.h"
 #include "varnel/contracts/Lists.h"
 #include "varnel/geometry/VarnelObjectVisitor.h"
@@ -30,7 +32,8 @@ const VarnelPlate &VarnelPlate::operator=(const VarnelPlate &other) {
 }
 
 VarnelPlate::~VarnelPlate() {
-    for (auto &entry : edges_) delete entry.second;
+    // Emptied first, so that whatever dies here and asks for its plate's edges meets no dead ones.
+    for (const auto &entry : std::exchange(edges_, {})) delete entry.second;
     varnel::deleteAll(areaLoads_);
     VarnelPlate::removeResults();
 }
