@@ -25,16 +25,22 @@ class CountedLocation : public VarnelResultSectionLocation {
     int &living_;
 };
 
-/// A location that looks, when it dies, whether its section still has its line.
+/// A location that looks, when it dies, whether its section still has its line, and where that ends.
 class LateLocation : public VarnelResultSectionLocation {
   public:
-    LateLocation(const VarnelResultSection &section, bool &lineThere)
-        : VarnelResultSectionLocation(0.5), section_(section), lineThere_(lineThere) {}
-    ~LateLocation() override { lineThere_ = section_.getGeo() != nullptr; }
+    LateLocation(VarnelResultSection &section, bool &lineThere, KzVector3D &lastEnd)
+        : VarnelResultSectionLocation(0.5), section_(section), lineThere_(lineThere), lastEnd_(lastEnd) {}
+    ~LateLocation() override {
+        lineThere_ = section_.getGeo() != nullptr;
+        section_.setP1(section_.getP1());
+        section_.setP2(section_.getP2());
+        lastEnd_ = section_.getP2();
+    }
 
   private:
-    const VarnelResultSection &section_;
+    VarnelResultSection &section_;
     bool &lineThere_;
+    KzVector3D &lastEnd_;
 };
 
 /// A host's factory, which may decline to make a section.
@@ -131,14 +137,17 @@ TEST(VarnelResultSection, ResetFreesTheLocationsAndLeavesTheLine) {
 
 TEST(VarnelResultSection, WhenItDiesTheLineGoesBeforeTheLocations) {
     bool lineThere = false;
+    KzVector3D lastEnd;
     {
         VarnelResultSection section(nullptr, start, end);
-        section.getLocations().push_back(new LateLocation(section, lineThere));
+        section.getLocations().push_back(new LateLocation(section, lineThere, lastEnd));
         section.reset();
         EXPECT_TRUE(lineThere);
-        section.getLocations().push_back(new LateLocation(section, lineThere));
+        EXPECT_EQ(end, lastEnd);
+        section.getLocations().push_back(new LateLocation(section, lineThere, lastEnd));
     }
     EXPECT_FALSE(lineThere);
+    EXPECT_EQ(KzVector3D(), lastEnd);
 }
 
 TEST(VarnelResultSection, OfTheFactoryMovesItsFirstEndWithTheFirstPoint) {

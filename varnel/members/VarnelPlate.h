@@ -120,7 +120,7 @@ class VARNEL_EXPORT VarnelPlate : public VarnelPolyObject, public VarnelStateObj
     /// Reverses the outline and what is known of its edges.
     void swap();
 
-    /// Takes the load over and marks a change of the plate alone.
+    /// Takes the load over, which nobody may own yet, and marks a change of the plate alone.
     void add(VarnelAreaLoad *load);
     /// The load passes to the caller. Marks no change.
     void remove(VarnelAreaLoad *load);
@@ -129,7 +129,7 @@ class VARNEL_EXPORT VarnelPlate : public VarnelPolyObject, public VarnelStateObj
     /// The same, made on the plate's outline if it is missing.
     VarnelAreaLoad *giveAreaLoad(SysBase::LoadcaseData::Type type, SysBase::Loadcase *loadcase);
 
-    /// Takes the position over.
+    /// Takes the position over, which no plate may own yet.
     void add(VarnelPlatePosition *position);
     /// The first position at exactly these coordinates, or null.
     VarnelPlatePosition *findPlatePosition(double x, double y, double z) const;

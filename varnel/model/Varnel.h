@@ -194,6 +194,7 @@ class VARNEL_EXPORT Varnel {
     VarnelAreaPolygon *giveAreaPolygon(const std::vector<KzVector3D> &points);
 
     // Adding. The model owns what it is given and marks a change, of loads for loads, else of the structure.
+    // An object that is owned already must not be added again.
 
     void add(VarnelLine *line);
     /// Also registers the name, and the boundaries that the edges have at this moment.

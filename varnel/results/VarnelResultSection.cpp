@@ -60,25 +60,25 @@ VarnelResultSection &VarnelResultSection::operator=(const VarnelResultSection &o
 }
 
 VarnelResultSection::~VarnelResultSection() {
-    geo_.reset();  // the line goes before the locations
+    geo_.reset();  // the line goes before the locations, which may still ask for it
     reset();
 }
 
 void VarnelResultSection::setP1(const KzVector3D &point) {
-    geo_->setCoor(0, point);
+    if (geo_) geo_->setCoor(0, point);
 }
 
 void VarnelResultSection::setP2(const KzVector3D &point) {
-    geo_->setCoor(1, point);
+    if (geo_) geo_->setCoor(1, point);
 }
 
 KzVector3D VarnelResultSection::getP1() const {
-    const VarnelLine *line = geo_->getLine(0);
+    const VarnelLine *line = geo_ ? geo_->getLine(0) : nullptr;
     return line ? line->getStartVec() : KzVector3D();
 }
 
 KzVector3D VarnelResultSection::getP2() const {
-    const VarnelLine *line = geo_->getLine(0);
+    const VarnelLine *line = geo_ ? geo_->getLine(0) : nullptr;
     return line ? line->getEndVec() : KzVector3D();
 }
 
