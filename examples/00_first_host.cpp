@@ -16,7 +16,8 @@ int main() {
     for (const KzVector3D &corner : corners) model.givePointBoundaryRectan(corner, fixedInZ, 0.3, 0.3);
     manager.output("first_host.xml");
 
-    VarnelManager reader(&factory);
+    VarnelFactory readerFactory;  // one for each manager that lives
+    VarnelManager reader(&readerFactory);
     reader.input("first_host.xml");
     const Varnel &copy = *reader.getDatabase();
     std::cout << copy.getPlates().size() << " plate, " << copy.getPointBoundaries().size() << " columns\n";

@@ -203,7 +203,8 @@ int run(const std::string &path) {
     manager.output(path.c_str());  // with results, since nothing changed since the calculation
     if (!manager.getExchange()->lastOutputOk()) return 1;
 
-    VarnelManager reader(&factory);
+    Factory readerFactory;  // one for each manager that lives
+    VarnelManager reader(&readerFactory);
     reader.input(path.c_str());
     std::printf("read again: %d beams, %d columns, %zu load cases\n",
                 reader.getDatabase()->getNumberOfBeams(), reader.getDatabase()->getNumberOfPointBoundaries(),
