@@ -13,12 +13,15 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
+/// The name of a subsystem, or nothing for the top one.
+std::string placeOf(const Document &document, const VarnelSubSystem &node) {
+    return &node == &document.root() ? "" : " in subsystem \"" + node.getName() + "\"";
+}
+
 /// `plate 3 "ceiling"`, with the name of its subsystem unless that is the top one.
 std::string nameOf(const char *kind, int number, const std::string &name, const Document &document,
                    const VarnelSubSystem &node) {
-    std::string text = kind + (" " + std::to_string(number)) + " \"" + name + "\"";
-    if (&node != &document.root()) text += " in subsystem \"" + node.getName() + "\"";
-    return text;
+    return kind + (" " + std::to_string(number)) + " \"" + name + "\"" + placeOf(document, node);
 }
 
 /// What is wrong with the outline of a plate, or nothing.
@@ -111,9 +114,8 @@ Lines missingMembers(const Document &document) {
             const auto &members = group->getObjects();
             const auto missing = std::count(members.begin(), members.end(), nullptr);
             if (missing == 0) continue;
-            std::string line = "group \"" + group->getName() + "\"";
-            if (node != &document.root()) line += " in subsystem \"" + node->getName() + "\"";
-            found.push_back(line + " has members that are not there: " + std::to_string(missing) + " of " +
+            found.push_back("group \"" + group->getName() + "\"" + placeOf(document, *node) +
+                            " has members that are not there: " + std::to_string(missing) + " of " +
                             std::to_string(members.size()));
         }
     }

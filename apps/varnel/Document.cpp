@@ -8,7 +8,9 @@
 #include <set>
 #include <sstream>
 #include <system_error>
+#include <utility>
 
+#include "apps/varnel/Steps.h"
 #include "varnel/contracts/KzMaterialHandler.h"
 #include "varnel/contracts/KzMaterialManager.h"
 #include "varnel/contracts/Tools/Error.h"
@@ -61,26 +63,6 @@ bool isKnownMaterial(const KzXmlData &reference, KzMaterialManager &project) {
         return project.findMaterialToName(name) || stock.findMaterialToName(name);
     if (name == "B500N" || name == "B500H") return true;  // older names of variants of B500M
     return project.findReinforcementToName(name) || stock.findReinforcementToName(name);
-}
-
-/// The place of an element as an XPath; an index stands where there are several of a name.
-std::string pathOf(const KzXmlData &element) {
-    std::string path;
-    for (const KzXmlData *node = &element; node; node = node->getParent()) {
-        std::string step = "/" + node->getName();
-        if (node->getParent()) {
-            const std::vector<KzXmlData *> &siblings = node->getParent()->getChildren();
-            const auto sameName = [node](const KzXmlData *other) {
-                return other->getName() == node->getName();
-            };
-            const auto self = std::find(siblings.begin(), siblings.end(), node);
-            const auto before = std::count_if(siblings.begin(), self, sameName);
-            const bool several = before > 0 || std::count_if(self, siblings.end(), sameName) > 1;
-            if (several) step += "[" + std::to_string(before + 1) + "]";
-        }
-        path.insert(0, step);
-    }
-    return path;
 }
 
 }  // namespace
@@ -159,15 +141,19 @@ const KzXmlData &Document::toBeWritten() const {
 std::string Document::unknownMaterials() const {
     std::string found;
     std::set<std::string> names;
-    std::vector<const KzXmlData *> waiting{&asRead()};
+    std::vector<std::pair<const KzXmlData *, std::string>> waiting{{&asRead(), "/" + asRead().getName()}};
     while (!waiting.empty()) {
-        const KzXmlData &element = *waiting.back();
+        const auto [element, place] = std::move(waiting.back());
         waiting.pop_back();
-        waiting.insert(waiting.end(), element.getChildren().rbegin(), element.getChildren().rend());
-        if (!isMaterialReference(element) || isKnownMaterial(element, *manager_->getMaterialManager()))
+        const auto first = static_cast<std::ptrdiff_t>(waiting.size());
+        Steps steps(*element);
+        for (const KzXmlData *child : element->getChildren())
+            waiting.emplace_back(child, place + steps.next(*child));
+        std::reverse(waiting.begin() + first, waiting.end());
+        if (!isMaterialReference(*element) || isKnownMaterial(*element, *manager_->getMaterialManager()))
             continue;
-        if (!names.insert(element.getData()).second) continue;
-        found += (found.empty() ? ": \"" : ", \"") + element.getData() + "\" at " + pathOf(element);
+        if (!names.insert(element->getData()).second) continue;
+        found += (found.empty() ? ": \"" : ", \"") + element->getData() + "\" at " + place;
     }
     return found;
 }

@@ -7,6 +7,7 @@
 #include <unordered_map>
 #include <utility>
 
+#include "apps/varnel/Steps.h"
 #include "varnel/contracts/KzXmlAttributeData.h"
 #include "varnel/contracts/KzXmlData.h"
 
@@ -182,24 +183,6 @@ class Identities {
     std::string itemName_;
     std::unordered_map<std::string, int> counts_;
     std::unordered_map<std::string, int> places_;
-};
-
-/// The last part of the places of a list's children: the name, with an index where there are several.
-class Steps {
-  public:
-    explicit Steps(const KzXmlData &list) {
-        for (const KzXmlData *child : list.getChildren()) ++totals_[child->getName()];
-    }
-
-    std::string next(const KzXmlData &child) {
-        const std::string &name = child.getName();
-        if (totals_[name] == 1) return "/" + name;
-        return "/" + name + "[" + std::to_string(++counts_[name]) + "]";
-    }
-
-  private:
-    std::unordered_map<std::string, int> totals_;
-    std::unordered_map<std::string, int> counts_;
 };
 
 class Comparison {

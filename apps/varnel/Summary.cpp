@@ -68,6 +68,7 @@ Figures figuresOf(const Varnel &model) {
         figures[PlateLoads] += static_cast<double>(plate->getAreaLoads().size());
         figures[PlateArea] += areaOf(plate->getGeo());
         figures[PlateVolume] += plate->getVolumen();
+        // The plate's own weight is made of the density: here it is a force, as that of beams.
         if (material) figures[Weight] += plate->getVolumen() * material->getGammaValue();
     }
     for (const VarnelBeam *beam : model.getBeams()) {
@@ -109,6 +110,11 @@ Node nodeOf(const VarnelSubSystem &subSystem) {
     return node;
 }
 
+void addFigures(Figures &total, const Node &node) {
+    std::transform(node.figures.begin(), node.figures.end(), total.begin(), total.begin(), std::plus<>());
+    for (const Node &child : node.children) addFigures(total, child);
+}
+
 std::vector<LoadSum> sumsOf(const Document &document) {
     Forces forces;
     for (const VarnelSubSystem *node : subSystems(document.root())) addLoads(forces, *node->getDatabase());
@@ -125,12 +131,8 @@ std::vector<LoadSum> sumsOf(const Document &document) {
 Summary summaryOf(const Document &document) {
     Summary summary;
     summary.root = nodeOf(document.root());
-    for (const VarnelSubSystem *node : subSystems(document.root())) {
-        const Figures figures = figuresOf(*node->getDatabase());
-        std::transform(figures.begin(), figures.end(), summary.total.begin(), summary.total.begin(),
-                       std::plus<>());
-        addUses(summary, *node->getDatabase());
-    }
+    addFigures(summary.total, summary.root);
+    for (const VarnelSubSystem *node : subSystems(document.root())) addUses(summary, *node->getDatabase());
     summary.loadcases = sumsOf(document);
     return summary;
 }

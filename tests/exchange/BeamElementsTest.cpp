@@ -3,7 +3,7 @@
 #include <climits>
 #include <memory>
 
-#include "tests/support/Document.h"
+#include "tests/support/BeamDocument.h"
 #include "tests/support/VirtualSlot.h"
 #include "varnel/contracts/Found/Foundation.h"
 #include "varnel/contracts/KzConcrete.h"
@@ -31,29 +31,14 @@ std::string edge(const std::string &line, int position) {
     return "<EDGE POS=\"" + std::to_string(position) + "\">" + line + "</EDGE>";
 }
 
-class BeamElements : public testing::Test {
+class BeamElements : public BeamDocument {
   protected:
-    VarnelBeam *readBeam(const std::string &attributes, const std::string &content = "") {
-        document.readSubSystem("<BEAMS><BEAM " + attributes + ">" + content + "</BEAM></BEAMS>");
-        return document.model().getBeams().back();
-    }
-    VarnelBeam *addBeam() {
-        VarnelBeam *beam = document.model().giveBeam(true);
-        beam->setLine(KzVector3D(0, 0, 0), KzVector3D(4, 0, 0), 0);
-        return beam;
-    }
     /// The list as it is written, with the numbers that the beams have.
     std::string written() {
         document.exchange().updateSystem(&document.manager);
         return textOf(document.find({"SUBSYSTEM", "BEAMS"}));
     }
-    const KzXmlData *writtenBeam() {
-        document.exchange().updateSystem(&document.manager);
-        return document.find({"SUBSYSTEM", "BEAMS", "BEAM"});
-    }
     VarnelExchangeXmlBeam &beams() { return *document.exchange().getExchangeBeam(); }
-
-    Document document;
 };
 
 TEST_F(BeamElements, VirtualOperationsStandInTheirOrder) {

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "tests/support/Document.h"
+#include "tests/support/BeamDocument.h"
 #include "varnel/contracts/Found/Foundation.h"
 #include "varnel/contracts/Found/FoundationManager.h"
 #include "varnel/members/VarnelBeam.h"
@@ -12,24 +12,7 @@ std::string span(const std::string &start, const std::string &end) {
     return "<FSPAN><LOCA " + start + "</LOCA><LOCE " + end + "</LOCE></FSPAN>";
 }
 
-class BeamSpanElements : public testing::Test {
-  protected:
-    VarnelBeam *readBeam(const std::string &attributes, const std::string &content) {
-        document.readSubSystem("<BEAMS><BEAM " + attributes + ">" + content + "</BEAM></BEAMS>");
-        return document.model().getBeams().back();
-    }
-    VarnelBeam *addBeam() {
-        VarnelBeam *beam = document.model().giveBeam(true);
-        beam->setLine(KzVector3D(0, 0, 0), KzVector3D(4, 0, 0), 0);
-        return beam;
-    }
-    const KzXmlData *writtenBeam() {
-        document.exchange().updateSystem(&document.manager);
-        return document.find({"SUBSYSTEM", "BEAMS", "BEAM"});
-    }
-
-    Document document;
-};
+class BeamSpanElements : public BeamDocument {};
 
 TEST_F(BeamSpanElements, EverySpanHasAnElementWithoutAttributes) {
     VarnelBeam *beam = addBeam();

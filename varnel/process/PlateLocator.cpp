@@ -26,9 +26,10 @@ bool isKnownKind(const VarnelArea &area) {
            kind == typeid(VarnelAreaRectangle);
 }
 
+/// In this form false for NaN.
 bool isNear(double coordinate) {
     return std::fabs(coordinate) <= farthest;
-}  // in this form false for NaN
+}
 
 }  // namespace
 
